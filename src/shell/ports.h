@@ -1,0 +1,48 @@
+#pragma once
+// What the screen logic needs from the person in front of the screen and from
+// the windowing side. The GUI implements these for real; the tests with fakes.
+
+#include <QString>
+
+#include "store/kind.h"
+
+namespace veroxia {
+
+enum class AskStyle { Plain, Question };  // Question: question icon, No as default
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  // A message box with OK and no icon.
+  virtual void Message(const QString& text, const QString& title) = 0;
+  // A Yes/No question; true for Yes.
+  virtual bool Ask(const QString& text, const QString& title, AskStyle style) = 0;
+  // The hourglass pointer on or off.
+  virtual void SetBusy(bool busy) = 0;
+};
+
+// Which main screen is shown; exactly one at a time. Showing a screen closes
+// the one shown before.
+class Screens {
+ public:
+  virtual ~Screens() = default;
+  virtual void ShowStart() = 0;
+  virtual void ShowHeader(Kind kind) = 0;
+  virtual void ShowLines(Kind kind) = 0;
+  // Ends the program with the given exit status.
+  virtual void Quit(int status) = 0;
+};
+
+// The hourglass for as long as it lives, restored on every way out.
+class BusyPointer {
+ public:
+  explicit BusyPointer(Dialogs& dialogs) : dialogs_(dialogs) { dialogs_.SetBusy(true); }
+  ~BusyPointer() { dialogs_.SetBusy(false); }
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+
+ private:
+  Dialogs& dialogs_;
+};
+
+}  // namespace veroxia

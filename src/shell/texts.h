@@ -1,0 +1,62 @@
+#pragma once
+// The texts the start screen, the period checks, the registry and the
+// carry-over show, exactly as the user sees them. Some hold Latin letters
+// that look like Greek ones ("To", "O"); they are part of the texts.
+
+#include <QString>
+
+namespace veroxia::texts {
+
+using namespace Qt::StringLiterals;
+
+inline const QString kAppTitle = u"Ξ.Ρ.Φ."_s;
+inline const QString kTitleStart = u"ΒΕΡΟΞΙΑ"_s;
+inline const QString kTitleVersion = u"  (εκδ. "_s;
+
+inline const QString kCommand1 = u"Βεροξία  Κοινών Επιχειρήσεων "_s;
+inline const QString kCommand4 = u"Βεροξία Κοινών Επιχειρήσεων   (Με στοιχεία προηγούμενης περιόδου)"_s;
+inline const QString kCommand2 = u"Βεροξία Οικοδομοτεχνικών Έργων "_s;
+inline const QString kCommand5 = u"Βεροξία Οικοδομοτεχνικών Έργων (Με στοιχεία προηγούμενης περιόδου)"_s;
+inline const QString kCommand3 = u"Έξοδος"_s;
+inline const QString kLabel2 = u"Αρχή περιόδου    ΜΜ        ΕΕΕΕ"_s;
+inline const QString kLabel3 = u"Τέλος περιόδου    ΜΜ        ΕΕΕΕ"_s;
+inline const QString kLabel6 = u"ΗΜ/ΝΙΑ ΠΕΡΙΟΔΟΥ ΕΡΓΟΥ ΜΜ        ΕΕΕΕ"_s;
+inline const QString kOkCmd = u"ΟΚ"_s;
+inline const QString kCancelCmd = u"Άκυρο"_s;
+
+inline const QString kStartMonthBlank = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να συμπληρωθεί."_s;
+inline const QString kStartMonthLength = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να έχει δύο ψηφία ."_s;
+inline const QString kStartMonthWrong = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου δεν είναι σωστός."_s;
+inline const QString kStartYearBlank = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να συμπληρωθεί."_s;
+inline const QString kStartYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός."_s;
+inline const QString kStartYearLength = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+inline const QString kEndMonthBlank = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου πρέπει να συμπληρωθεί"_s;
+inline const QString kEndMonthLength = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου πρέπει να έχει δύο ψηφία ."_s;
+inline const QString kEndMonthWrong = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου δεν είναι σωστός."_s;
+inline const QString kEndYearBlank = u"ΠΡΟΣΟΧΗ!! Το έτος τέλους περιόδου πρέπει να συμπληρωθεί."_s;
+inline const QString kEndYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι αριθμός."_s;
+inline const QString kEndYearLength = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+inline const QString kEndYearDiffers = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι ίδιο με το έτος αρχής περιόδου."_s;
+inline const QString kStartMonthNotQuarter = u"ΠΡΟΣΟΧΗ!! O μήνας αρχής περιόδου δεν είναι σωστός."_s;
+inline const QString kEndMonthNotQuarter = u"ΠΡΟΣΟΧΗ!! O μήνας τέλους περιόδου δεν είναι σωστός."_s;
+// The construction period reuses the start-month texts above; its year texts
+// differ from the common ones in their last characters.
+inline const QString kConYearBlank = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να συμπληρωθεί"_s;
+inline const QString kConYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός ."_s;
+inline const QString kConYearLength = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+
+inline const QString kDeclarationFound = u"ΠΡΟΣΟΧΗ!! Βρέθηκε δήλωση για την περίοδο που δηλώσατε."_s;
+inline const QString kNoPreviousDeclaration = u"ΠΡΟΣΟΧΗ!! Δεν βρέθηκε δήλωση προηγούμενης περιόδου."_s;
+inline const QString kStoreMissing = u"ΠΡΟΣΟΧΗ!! Το αρχείο 'QorDb.mdb' δεν μπορεί να βρεθεί."_s;
+inline const QString kStoreCritical = u"Παρουσιάστηκε κρίσιμο λάθος εφαρμογής.Το πρόγραμμα θα κλείσει,παρακαλώ ξαναδοκιμάστε!! "_s;
+inline const QString kCarryOverFailed = u"Παρουσιάστηκε πρόβλημα στην μεταφόρα των εγγραφών."_s;
+inline const QString kErrorCode = u"Κωδικός λάθους: "_s;
+inline const QString kErrorDescription = u"Περιγραφή λάθους: "_s;
+
+// Our own texts, for cases the program must still answer clearly.
+inline const QString kNoIdLeft =
+    u"ΠΡΟΣΟΧΗ!! Δεν μπορεί να δημιουργηθεί νέα δήλωση: έχει συμπληρωθεί ο μέγιστος αριθμός δηλώσεων (32767)."_s;
+inline const QString kRegistryFailed = u"Παρουσιάστηκε πρόβλημα στην αναζήτηση της δήλωσης."_s;
+inline const QString kNotAvailableYet = u"Η οθόνη αυτή δεν είναι ακόμη διαθέσιμη."_s;
+
+}  // namespace veroxia::texts

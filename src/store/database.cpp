@@ -1,0 +1,181 @@
+#include "store/database.h"
+
+#include <sqlcipher/sqlite3.h>
+
+#include <QByteArray>
+#include <QFileInfo>
+#include <string>
+#include <unordered_map>
+
+namespace veroxia {
+
+struct Database::Cache {
+  std::unordered_map<std::string, std::unique_ptr<Statement>> statements;
+};
+
+namespace {
+
+StoreError ErrorOf(sqlite3* db, int code) {
+  const char* text = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+  return StoreError{code, QString::fromUtf8(text)};
+}
+
+}  // namespace
+
+Database::Database(sqlite3* db) : db_(db), cache_(std::make_unique<Cache>()) {}
+
+Database::~Database() {
+  cache_.reset();  // statements first: the connection closes only when none is left
+  sqlite3_close_v2(db_);
+}
+
+std::unique_ptr<Database> Database::OpenWith(const QString& path, const QString& password,
+                                             int flags) {
+  sqlite3* raw = nullptr;
+  const QByteArray file = path.toUtf8();
+  const int rc = sqlite3_open_v2(file.constData(), &raw, flags, nullptr);
+  if (rc != SQLITE_OK) {
+    StoreError error = ErrorOf(raw, rc);
+    sqlite3_close_v2(raw);
+    throw error;
+  }
+  std::unique_ptr<Database> db(new Database(raw));
+  const QByteArray key = password.toUtf8();
+  if (sqlite3_key(raw, key.constData(), static_cast<int>(key.size())) != SQLITE_OK) db->Fail();
+  sqlite3_busy_timeout(raw, 10'000);
+  sqlite3_extended_result_codes(raw, 0);
+  return db;
+}
+
+std::unique_ptr<Database> Database::Open(const QString& path, const QString& password) {
+  // A file the user marked read-only is refused before SQLite could quietly
+  // open it for reading only (or, for root, write to it anyway).
+  const QFileInfo info(path);
+  if (info.exists() && !(info.permissions() & QFileDevice::WriteOwner)) {
+    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
+  }
+  auto db = OpenWith(path, password, SQLITE_OPEN_READWRITE);
+  // The key is only tried on the first read: a wrong password or a file that
+  // is no store fails here with "file is not a database".
+  db->Exec("SELECT count(*) FROM sqlite_master");
+  if (sqlite3_db_readonly(db->db_, "main") == 1) {
+    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
+  }
+  return db;
+}
+
+std::unique_ptr<Database> Database::Create(const QString& path, const QString& password) {
+  if (QFileInfo::exists(path)) {
+    throw StoreError{SQLITE_CANTOPEN, QStringLiteral("the file exists already: ") + path};
+  }
+  return OpenWith(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+void Database::Exec(std::string_view sql) {
+  char* message = nullptr;
+  const std::string text(sql);
+  const int rc = sqlite3_exec(db_, text.c_str(), nullptr, nullptr, &message);
+  if (rc != SQLITE_OK) {
+    StoreError error{rc, QString::fromUtf8(message != nullptr ? message : sqlite3_errstr(rc))};
+    sqlite3_free(message);
+    throw error;
+  }
+}
+
+Statement& Database::Prepare(std::string_view sql) {
+  const std::string key(sql);
+  auto& slot = cache_->statements[key];
+  if (!slot) {
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(db_, key.c_str(), static_cast<int>(key.size()),
+                           &stmt, nullptr) != SQLITE_OK) {
+      cache_->statements.erase(key);
+      Fail();
+    }
+    slot = std::make_unique<Statement>(*this, stmt);
+  }
+  return slot->Reset();
+}
+
+int Database::Changes() const { return sqlite3_changes(db_); }
+
+bool Database::InTransaction() const { return sqlite3_get_autocommit(db_) == 0; }
+
+void Database::Fail() const { throw ErrorOf(db_, sqlite3_errcode(db_)); }
+
+Statement::~Statement() { sqlite3_finalize(stmt_); }
+
+Statement& Statement::Reset() {
+  sqlite3_reset(stmt_);
+  sqlite3_clear_bindings(stmt_);
+  return *this;
+}
+
+Statement& Statement::Bind(int index, int value) {
+  if (sqlite3_bind_int(stmt_, index, value) != SQLITE_OK) db_.Fail();
+  return *this;
+}
+
+Statement& Statement::Bind(int index, const QString& value) {
+  const QByteArray utf8 = value.toUtf8();
+  if (sqlite3_bind_text(stmt_, index, utf8.constData(), static_cast<int>(utf8.size()),
+                        SQLITE_TRANSIENT) != SQLITE_OK) {
+    db_.Fail();
+  }
+  return *this;
+}
+
+Statement& Statement::Bind(int index, const Text& value) {
+  if (!value) {
+    if (sqlite3_bind_null(stmt_, index) != SQLITE_OK) db_.Fail();
+    return *this;
+  }
+  return Bind(index, *value);
+}
+
+int Statement::Run() {
+  while (Next()) {
+  }
+  return db_.Changes();
+}
+
+bool Statement::Next() {
+  const int rc = sqlite3_step(stmt_);
+  if (rc == SQLITE_ROW) return true;
+  if (rc == SQLITE_DONE) return false;
+  StoreError error = ErrorOf(sqlite3_db_handle(stmt_), rc);
+  sqlite3_reset(stmt_);
+  throw error;
+}
+
+bool Statement::IsNull(int column) const {
+  return sqlite3_column_type(stmt_, column) == SQLITE_NULL;
+}
+
+int Statement::Int(int column) const { return sqlite3_column_int(stmt_, column); }
+
+Text Statement::Value(int column) const {
+  if (IsNull(column)) return std::nullopt;
+  const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, column));
+  return QString::fromUtf8(data, sqlite3_column_bytes(stmt_, column));
+}
+
+Transaction::Transaction(Database& db) : db_(db) { db_.Exec("BEGIN IMMEDIATE"); }
+
+Transaction::~Transaction() {
+  if (!done_ && db_.InTransaction()) {
+    try {
+      db_.Exec("ROLLBACK");
+    } catch (const StoreError&) {
+      // Nothing more can be done from a destructor; SQLite has already
+      // abandoned the transaction when ROLLBACK itself fails.
+    }
+  }
+}
+
+void Transaction::Commit() {
+  db_.Exec("COMMIT");
+  done_ = true;
+}
+
+}  // namespace veroxia

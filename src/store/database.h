@@ -1,0 +1,107 @@
+#pragma once
+// The one connection to the store file: SQLite encrypted with SQLCipher,
+// behind small RAII classes. Every value reaches a statement as a bound
+// parameter; only fixed table names are ever joined into statement text.
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include <QByteArray>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace veroxia {
+
+using Text = std::optional<QString>;  // a text column that may be Null
+
+// A failure of the store: SQLite's result code and its description.
+struct StoreError {
+  int code = 0;
+  QString description;
+};
+
+class Statement;
+
+class Database {
+ public:
+  // Opens an existing store file for reading and writing, keyed with the
+  // password, and proves the key by reading the schema. Never creates the
+  // file. Throws StoreError.
+  static std::unique_ptr<Database> Open(const QString& path, const QString& password);
+  // Creates a new, empty, encrypted store file. Throws StoreError when the
+  // file exists already or cannot be made.
+  static std::unique_ptr<Database> Create(const QString& path, const QString& password);
+
+  ~Database();
+  Database(const Database&) = delete;
+  Database& operator=(const Database&) = delete;
+
+  // Runs a statement without parameters or results (schema, transactions).
+  void Exec(std::string_view sql);
+  // Prepares a statement, or hands back the one prepared earlier for the same
+  // text (each statement shape is prepared once per connection).
+  Statement& Prepare(std::string_view sql);
+  Statement& Prepare(const char* sql) { return Prepare(std::string_view(sql)); }
+  Statement& Prepare(const QByteArray& sql) {
+    return Prepare(std::string_view(sql.constData(), static_cast<size_t>(sql.size())));
+  }
+  // Rows changed by the last INSERT, UPDATE or DELETE.
+  int Changes() const;
+  bool InTransaction() const;
+
+  [[noreturn]] void Fail() const;  // throws the connection's last error
+
+ private:
+  explicit Database(sqlite3* db);
+  static std::unique_ptr<Database> OpenWith(const QString& path, const QString& password,
+                                            int flags);
+  sqlite3* db_;
+  struct Cache;
+  std::unique_ptr<Cache> cache_;
+};
+
+// A prepared statement. Reset on every Run/Query so it can be reused.
+class Statement {
+ public:
+  Statement(Database& db, sqlite3_stmt* stmt) : db_(db), stmt_(stmt) {}
+  ~Statement();
+  Statement(const Statement&) = delete;
+  Statement& operator=(const Statement&) = delete;
+
+  Statement& Reset();  // clears bindings and the previous run
+  Statement& Bind(int index, int value);
+  Statement& Bind(int index, const QString& value);
+  Statement& Bind(int index, const Text& value);
+
+  // Runs to completion; answers the rows changed.
+  int Run();
+  // Steps to the next row; false when there is none.
+  bool Next();
+  bool IsNull(int column) const;
+  int Int(int column) const;
+  Text Value(int column) const;  // any column as text, Null kept
+
+ private:
+  Database& db_;
+  sqlite3_stmt* stmt_;
+};
+
+// Rolls back unless committed.
+class Transaction {
+ public:
+  explicit Transaction(Database& db);
+  ~Transaction();
+  Transaction(const Transaction&) = delete;
+  Transaction& operator=(const Transaction&) = delete;
+  void Commit();
+
+ private:
+  Database& db_;
+  bool done_ = false;
+};
+
+}  // namespace veroxia

@@ -1,0 +1,73 @@
+#include "store/declarations.h"
+
+#include <QByteArray>
+
+namespace veroxia {
+
+namespace {
+
+QByteArray Sql(const char* pattern, const char* table1, const char* table2 = "") {
+  return QByteArray(pattern).replace("%1", table1).replace("%2", table2);
+}
+
+}  // namespace
+
+std::optional<Text> FindDeclaration(Database& db, Kind kind, const PeriodTexts& period) {
+  Statement* statement = nullptr;
+  if (kind == Kind::Common) {
+    statement = &db.Prepare(
+        "SELECT id FROM QOR_EMPLOYERS WHERE from_month = ? AND from_year = ? AND to_month = ? "
+        "AND to_year = ?");
+    statement->Bind(3, period.to_month).Bind(4, period.to_year);
+  } else {
+    statement = &db.Prepare("SELECT id FROM QOR_CON_EMPLOYERS WHERE from_month = ? AND from_year = ?");
+  }
+  statement->Bind(1, period.from_month).Bind(2, period.from_year);
+  if (!statement->Next()) return std::nullopt;
+  return statement->Value(0);
+}
+
+Text MaxId(Database& db, Kind kind) {
+  Statement& statement = db.Prepare(Sql("SELECT max(id) AS MaxId FROM %1", TablesOf(kind).header));
+  statement.Next();  // an aggregate always gives one row
+  return statement.Value(0);
+}
+
+int CountLines(Database& db, Kind kind, int id) {
+  Statement& statement =
+      db.Prepare(Sql("SELECT count(*) AS Cnt FROM %1 WHERE id = ?", TablesOf(kind).lines));
+  statement.Bind(1, id);
+  statement.Next();
+  return statement.Int(0);
+}
+
+void ClearScratch(Database& db, Kind kind) {
+  db.Prepare(Sql("DELETE FROM %1", TablesOf(kind).scratch)).Run();
+}
+
+int FixDailyWages(Database& db, int id) {
+  return db
+      .Prepare(
+          "UPDATE QOR_EMPLOYEES SET daily_wages = '0' "
+          "WHERE daily_wages IS NULL OR daily_wages = '' AND id = ?")
+      .Bind(1, id)
+      .Run();
+}
+
+int CopyLinesToScratch(Database& db, Kind kind, int id) {
+  const KindTables tables = TablesOf(kind);
+  return db.Prepare(Sql("INSERT INTO %1 SELECT * FROM %2 WHERE id = ?", tables.scratch, tables.lines))
+      .Bind(1, id)
+      .Run();
+}
+
+int MoveScratchToNextId(Database& db, Kind kind) {
+  return db.Prepare(Sql("UPDATE %1 SET id = id + 1", TablesOf(kind).scratch)).Run();
+}
+
+int InsertLinesFromScratch(Database& db, Kind kind) {
+  const KindTables tables = TablesOf(kind);
+  return db.Prepare(Sql("INSERT INTO %1 SELECT * FROM %2", tables.lines, tables.scratch)).Run();
+}
+
+}  // namespace veroxia

@@ -1,0 +1,49 @@
+#pragma once
+// The statements that find declarations and carry employee lines over from
+// one declaration to the next. One function per statement shape; every value
+// is a bound parameter.
+
+#include <QString>
+#include <optional>
+
+#include "store/database.h"
+#include "store/kind.h"
+
+namespace veroxia {
+
+// The typed period of a declaration, texts exactly as typed. The construction
+// kind uses only the start month and year.
+struct PeriodTexts {
+  QString from_month;
+  QString from_year;
+  QString to_month;
+  QString to_year;
+};
+
+// The id of the first header stored for the period (compared as exact
+// texts); nothing when there is none. The id itself may be Null.
+std::optional<Text> FindDeclaration(Database& db, Kind kind, const PeriodTexts& period);
+
+// The highest id of the kind's header table; Null when the table is empty.
+Text MaxId(Database& db, Kind kind);
+
+// The number of employee lines of a declaration.
+int CountLines(Database& db, Kind kind, int id);
+
+// Empties the kind's scratch table.
+void ClearScratch(Database& db, Kind kind);
+
+// Sets the daily wage to "0" where it is Null in any common-business line, or
+// empty in a line of the given declaration (AND binds tighter than OR).
+int FixDailyWages(Database& db, int id);
+
+// Copies the lines of a declaration into the scratch table; answers how many.
+int CopyLinesToScratch(Database& db, Kind kind, int id);
+
+// Moves every scratch line to the next declaration id.
+int MoveScratchToNextId(Database& db, Kind kind);
+
+// Appends every scratch line to the kind's lines table.
+int InsertLinesFromScratch(Database& db, Kind kind);
+
+}  // namespace veroxia

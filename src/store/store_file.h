@@ -1,0 +1,14 @@
+#pragma once
+// Where the store lives and how it is keyed.
+
+#include <QString>
+
+namespace veroxia {
+
+// The store file, in the program's own directory.
+inline QString StoreFileName() { return QStringLiteral("QorDb.mdb"); }
+inline QString StorePath(const QString& app_dir) { return app_dir + u'/' + StoreFileName(); }
+// The key the store is encrypted with.
+inline QString StorePassword() { return QStringLiteral("41kase41"); }
+
+}  // namespace veroxia

@@ -1,0 +1,82 @@
+#pragma once
+// Scripted stand-ins for the person in front of the screen and the windowing
+// side, and a temporary store for each test.
+
+#include <QStringList>
+#include <QTemporaryDir>
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include "shell/ports.h"
+#include "shell/vars.h"
+
+namespace veroxia::testing {
+
+struct ShownMessage {
+  QString text;
+  QString title;
+};
+
+class FakeDialogs : public Dialogs {
+ public:
+  void Message(const QString& text, const QString& title) override {
+    messages.push_back({text, title});
+  }
+  bool Ask(const QString& text, const QString& title, AskStyle style) override {
+    questions.push_back({text, title});
+    last_style = style;
+    if (answers.empty()) return false;
+    const bool answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+  void SetBusy(bool busy) override {
+    busy_calls.push_back(busy);
+    this->busy = busy;
+  }
+
+  QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
+
+  std::vector<ShownMessage> messages;
+  std::vector<ShownMessage> questions;
+  std::deque<bool> answers;  // scripted answers to Ask, in order; No when none is left
+  AskStyle last_style = AskStyle::Plain;
+  std::vector<bool> busy_calls;
+  bool busy = false;
+};
+
+class FakeScreens : public Screens {
+ public:
+  void ShowStart() override { shown << QStringLiteral("start"); }
+  void ShowHeader(Kind kind) override {
+    shown << (kind == Kind::Common ? QStringLiteral("header common")
+                                   : QStringLiteral("header construction"));
+  }
+  void ShowLines(Kind kind) override {
+    shown << (kind == Kind::Common ? QStringLiteral("lines common")
+                                   : QStringLiteral("lines construction"));
+  }
+  void Quit(int status) override { quit_status = status; }
+
+  QStringList shown;
+  std::optional<int> quit_status;
+};
+
+// A fresh directory holding an empty store, and Vars pointing at it.
+class TempStore {
+ public:
+  TempStore();  // creates the store file
+  explicit TempStore(bool create);
+  QString Dir() const { return dir_.path(); }
+  QString Path() const;
+  // Opens the store into vars (as the start screen would).
+  Database& Open();
+
+  Vars vars;
+
+ private:
+  QTemporaryDir dir_;
+};
+
+}  // namespace veroxia::testing
