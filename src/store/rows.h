@@ -55,6 +55,24 @@ int InsertRow(Database& db, const Row& row) {
   return statement.Run();
 }
 
+// UPDATE of every column but id of the header row whose id is the row's id;
+// answers the rows changed (0 when no such row is stored).
+template <class Row>
+int UpdateHeader(Database& db, Row row) {
+  QByteArray assignments;
+  ForEachText(row, [&](const char* column, Text&) {
+    if (!assignments.isEmpty()) assignments += ", ";
+    assignments += QByteArray(column) + " = ?";
+  });
+  const QByteArray sql =
+      "UPDATE " + QByteArray(Row::kTable) + " SET " + assignments + " WHERE id = ?";
+  Statement& statement = db.Prepare(sql);
+  int index = 1;
+  ForEachText(row, [&](const char*, Text& value) { statement.Bind(index++, value); });
+  statement.Bind(index, row.id);
+  return statement.Run();
+}
+
 // The header row of a declaration, if stored.
 template <class Row>
 std::optional<Row> SelectHeader(Database& db, int id) {

@@ -1,0 +1,97 @@
+#include "header/header_checks.h"
+
+#include "header/date_box.h"
+#include "header/texts.h"
+#include "rules/checks.h"
+#include "shell/texts.h"
+
+namespace veroxia {
+
+namespace {
+
+std::optional<FieldFault> FaultOf(const Fault& message, const QString& field, OnFault then) {
+  if (!message) return std::nullopt;
+  return FieldFault{field, *message, then};
+}
+
+}  // namespace
+
+bool RunHeaderChecks(Form& form, Dialogs& dialogs, const std::vector<HeaderCheck>& checks) {
+  try {
+    for (const HeaderCheck& check : checks) {
+      const std::optional<FieldFault> fault = check();
+      if (!fault) continue;
+      dialogs.Message(fault->message, texts::kAppTitle);
+      if (fault->then == OnFault::Select) {
+        const int whole = static_cast<int>(form.Text(fault->field).size());
+        form.Select(fault->field, fault->length < 0 ? whole : fault->length);
+      } else {
+        form.SetFocus(fault->field);
+      }
+      return false;
+    }
+    return true;
+  } catch (...) {
+    dialogs.Message(header_texts::kUnknownFieldError, texts::kAppTitle);
+    return false;
+  }
+}
+
+HeaderCheck FilledCheck(const Form& form, const QString& field, const QString& message,
+                        OnFault then) {
+  return [&form, field, message, then]() -> std::optional<FieldFault> {
+    if (!form.Text(field).trimmed().isEmpty()) return std::nullopt;
+    return FieldFault{field, message, then};
+  };
+}
+
+HeaderCheck IntegerCheck(const Form& form, const QString& field, const QString& name, int digits,
+                         bool exact, OnFault then) {
+  return [&form, field, name, digits, exact, then] {
+    return FaultOf(CheckInteger(form.Text(field), name, digits, exact), field, then);
+  };
+}
+
+HeaderCheck DecimalCheck(const Form& form, const QString& field, const QString& name,
+                         int max_int_digits, OnFault then) {
+  return [&form, field, name, max_int_digits, then] {
+    return FaultOf(CheckDecimal(form.Text(field), name, max_int_digits), field, then);
+  };
+}
+
+HeaderCheck NamedCheck(const Form& form, const QString& field, const QString& name) {
+  return [&form, field, name]() -> std::optional<FieldFault> {
+    const QString text = form.Text(field);
+    if (text.trimmed().isEmpty()) return std::nullopt;
+    return FaultOf(CheckNoDigits(text, name), field, OnFault::Select);
+  };
+}
+
+HeaderCheck DateBoxCheck(const Form& form, const QString& field, const QString& name) {
+  return [&form, field, name]() -> std::optional<FieldFault> {
+    const QString text = form.Text(field);
+    if (DateBoxIsEmpty(text)) return std::nullopt;
+    return FaultOf(CheckDate(text, name), field, OnFault::Select);
+  };
+}
+
+HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index) {
+  return [&form, field, type_index]() -> std::optional<FieldFault> {
+    const QString text = form.Text(field);
+    constexpr int kDateLength = 10;
+    if (DateBoxIsEmpty(text)) {
+      if (type_index == 1) return FieldFault{field, header_texts::kStopDateBlank, OnFault::Focus};
+      return std::nullopt;
+    }
+    switch (type_index) {
+      case 1:
+        return FaultOf(CheckDate(text, header_texts::kNameStopDate), field, OnFault::Select);
+      case 2:
+        return FieldFault{field, header_texts::kStopDateNotIn03, OnFault::Select, kDateLength};
+      default:
+        return FieldFault{field, header_texts::kStopDateNotIn01, OnFault::Select, kDateLength};
+    }
+  };
+}
+
+}  // namespace veroxia

@@ -1,0 +1,54 @@
+#pragma once
+// The check sequence of a header screen: rules in a fixed order; the first
+// that fails is shown in a message box and its field is selected or only
+// focused; the sequence then answers false.
+
+#include <QString>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "shell/form.h"
+#include "shell/ports.h"
+
+namespace veroxia {
+
+enum class OnFault {
+  Select,  // the field's text is selected, then the field takes the focus
+  Focus,   // the field only takes the focus
+};
+
+struct FieldFault {
+  QString field;
+  QString message;
+  OnFault then = OnFault::Select;
+  int length = -1;  // characters selected from the first; -1: the whole text
+};
+
+// One rule: what is wrong, or nothing. Rules read the form when they run, so
+// a rule after the first failure is never evaluated.
+using HeaderCheck = std::function<std::optional<FieldFault>()>;
+
+// Runs the rules in order and reports the first failure (application title).
+// An unexpected error while the rules run gives the unknown-error message.
+// True when every rule passes.
+bool RunHeaderChecks(Form& form, Dialogs& dialogs, const std::vector<HeaderCheck>& checks);
+
+// The field's trimmed text must not be empty.
+HeaderCheck FilledCheck(const Form& form, const QString& field, const QString& message,
+                        OnFault then);
+// CheckInteger on the field's text with the given field name.
+HeaderCheck IntegerCheck(const Form& form, const QString& field, const QString& name, int digits,
+                         bool exact, OnFault then);
+// CheckDecimal on the field's text with the given field name.
+HeaderCheck DecimalCheck(const Form& form, const QString& field, const QString& name,
+                         int max_int_digits, OnFault then);
+// CheckNoDigits, only when the field's trimmed text is not empty; selects.
+HeaderCheck NamedCheck(const Form& form, const QString& field, const QString& name);
+// CheckDate on a date box's full text, only when something is typed; selects.
+HeaderCheck DateBoxCheck(const Form& form, const QString& field, const QString& name);
+// The stop date against the selected declaration type (0: 01, 1: 02, 2: 03):
+// an extraordinary declaration needs a valid date, the other two forbid one.
+HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index);
+
+}  // namespace veroxia
