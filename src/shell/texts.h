@@ -58,5 +58,8 @@ inline const QString kNoIdLeft =
     u"ΠΡΟΣΟΧΗ!! Δεν μπορεί να δημιουργηθεί νέα δήλωση: έχει συμπληρωθεί ο μέγιστος αριθμός δηλώσεων (32767)."_s;
 inline const QString kRegistryFailed = u"Παρουσιάστηκε πρόβλημα στην αναζήτηση της δήλωσης."_s;
 inline const QString kNotAvailableYet = u"Η οθόνη αυτή δεν είναι ακόμη διαθέσιμη."_s;
+// The captions of the Yes and No buttons of a question.
+inline const QString kYes = u"Ναι"_s;
+inline const QString kNo = u"Όχι"_s;
 
 }  // namespace veroxia::texts

@@ -1,0 +1,53 @@
+#include "gui/app_screens.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <QTimer>
+
+#include "gui/start_view.h"
+#include "shell/texts.h"
+
+namespace veroxia {
+
+AppScreens::AppScreens(Vars& vars, Dialogs& dialogs) : vars_(vars), dialogs_(dialogs) {}
+
+AppScreens::~AppScreens() = default;
+
+QWidget* AppScreens::Current() const { return current_ ? current_->view.get() : nullptr; }
+
+void AppScreens::ShowStart() {
+  auto next = std::make_unique<Shown>();
+  next->form = std::make_unique<StartForm>(vars_, dialogs_, *this);
+  if (!next->form->Load()) return;  // the store could not be opened: Quit was called
+  next->view = std::make_unique<StartView>(*next->form);
+  next->view->show();
+  Retire();
+  current_ = std::move(next);
+}
+
+void AppScreens::ShowHeader(Kind /*kind*/) {
+  dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
+  ShowStart();
+}
+
+void AppScreens::ShowLines(Kind /*kind*/) {
+  dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
+  ShowStart();
+}
+
+void AppScreens::Quit(int status) {
+  quit_status_ = status;
+  Retire();
+  // Before the event loop runs there is nothing to leave: main returns the
+  // status itself. (Asking to leave then would end every later loop at once.)
+  if (QThread::currentThread()->loopLevel() > 0) QCoreApplication::exit(status);
+}
+
+void AppScreens::Retire() {
+  if (!current_) return;
+  current_->view->hide();
+  retired_.push_back(std::move(current_));
+  QTimer::singleShot(0, &timers_, [this] { retired_.clear(); });
+}
+
+}  // namespace veroxia

@@ -1,0 +1,128 @@
+#include "gui/form_binder.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+namespace veroxia {
+
+namespace {
+
+// A QLineEdit without a limit reports this maximum length.
+constexpr int kNoLimit = 32767;
+
+}  // namespace
+
+FormBinder::FormBinder(Form& form, QWidget& root, QStringList focus_order)
+    : QObject(&root), form_(form), root_(root), focus_order_(std::move(focus_order)) {}
+
+void FormBinder::Bind(const QString& name, QWidget* widget) {
+  form_.At(name);  // the form must know the control
+  widget->setObjectName(name);
+  widgets_[name] = widget;
+  names_[widget] = name;
+  focusable_[widget] = widget->focusPolicy() != Qt::NoFocus;
+  widget->installEventFilter(this);
+  if (auto* label = qobject_cast<QLabel*>(widget)) label->setTextFormat(Qt::PlainText);
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    connect(edit, &QLineEdit::textEdited, this,
+            [this, name](const QString& text) { form_.Type(name, text); });
+  }
+}
+
+void FormBinder::OnClick(const QString& name, std::function<void()> routine) {
+  auto* button = qobject_cast<QAbstractButton*>(Widget(name));
+  if (button == nullptr) return;
+  connect(button, &QAbstractButton::clicked, this, [this, routine = std::move(routine)] {
+    routine();
+    Mirror();
+  });
+}
+
+QWidget* FormBinder::Widget(const QString& name) const {
+  const auto it = widgets_.find(name);
+  return it == widgets_.end() ? nullptr : it->second;
+}
+
+QStringList FormBinder::Unbound() const {
+  QStringList missing;
+  for (const QString& name : form_.Names()) {
+    if (widgets_.count(name) == 0) missing << name;
+  }
+  return missing;
+}
+
+void FormBinder::Mirror() {
+  mirroring_ = true;
+  for (const auto& [name, widget] : widgets_) MirrorControl(name, *widget);
+  MirrorTabOrder();
+  MirrorFocus();
+  mirroring_ = false;
+  // The window may have moved the focus by itself, away from a control that
+  // was hidden or disabled: the form learns where it went.
+  if (QWidget* focused = root_.focusWidget()) {
+    const auto it = names_.find(focused);
+    if (it != names_.end() && it->second != form_.FocusedField()) {
+      const QWidget* wanted = Widget(form_.FocusedField());
+      if (wanted == nullptr || !wanted->isVisibleTo(&root_) || !wanted->isEnabled()) {
+        form_.FocusMovedTo(it->second);
+      }
+    }
+  }
+}
+
+void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
+  const Control& control = form_.At(name);
+  if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
+    const int max_length = control.max_length > 0 ? control.max_length : kNoLimit;
+    if (edit->maxLength() != max_length) edit->setMaxLength(max_length);
+    if (edit->text() != control.text) edit->setText(control.text);
+  } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+    if (button->text() != control.text) button->setText(control.text);
+  } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
+    // A picture label has no text of its own; its picture stays.
+    if (label->text() != control.text && !control.text.isEmpty()) label->setText(control.text);
+  }
+  if (widget.isEnabled() != control.enabled) widget.setEnabled(control.enabled);
+  if (focusable_[&widget]) {
+    const Qt::FocusPolicy policy = control.tab_stop ? Qt::StrongFocus : Qt::ClickFocus;
+    if (widget.focusPolicy() != policy) widget.setFocusPolicy(policy);
+  }
+  if (widget.isHidden() == control.visible) widget.setVisible(control.visible);
+}
+
+void FormBinder::MirrorTabOrder() {
+  QWidget* previous = nullptr;
+  for (const QString& name : focus_order_) {
+    QWidget* widget = Widget(name);
+    if (widget == nullptr) continue;
+    if (previous != nullptr) QWidget::setTabOrder(previous, widget);
+    previous = widget;
+  }
+}
+
+void FormBinder::MirrorFocus() {
+  const QString name = form_.FocusedField();
+  QWidget* widget = Widget(name);
+  if (widget == nullptr || !widget->isEnabled() || !widget->isVisibleTo(&root_)) return;
+  widget->setFocus(Qt::OtherFocusReason);
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    if (const auto selection = form_.SelectionOf(name)) {
+      edit->setSelection(selection->start, selection->length);
+    } else {
+      edit->deselect();
+    }
+  }
+}
+
+bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::FocusIn && !mirroring_) {
+    const auto it = names_.find(static_cast<QWidget*>(watched));
+    // Coming back to the field that has the focus already is no move.
+    if (it != names_.end() && it->second != form_.FocusedField()) form_.FocusMovedTo(it->second);
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+}  // namespace veroxia

@@ -1,0 +1,64 @@
+#pragma once
+// Ties a screen's logic (a Form) to its widgets. Each control of the form has
+// one widget whose object name is the control's name. What the user types is
+// copied into the form as it is typed, and focus moves are reported; after
+// every event routine the widgets show the form's state again: text, shown,
+// enabled, maximum length, whether the tab key stops on it, the tab order,
+// the focus and the selection.
+
+#include <QAbstractButton>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <map>
+
+#include "shell/form.h"
+
+class QWidget;
+
+namespace veroxia {
+
+class FormBinder : public QObject {
+ public:
+  // The widgets are looked for under root; the tab key follows focus_order.
+  FormBinder(Form& form, QWidget& root, QStringList focus_order);
+
+  // Makes the widget of a control, named after it, under parent.
+  template <class W, class... Args>
+  W* Add(const QString& name, QWidget* parent, Args&&... args) {
+    W* widget = new W(std::forward<Args>(args)..., parent);  // owned by parent
+    Bind(name, widget);
+    return widget;
+  }
+  // Takes a widget made elsewhere as the control's widget.
+  void Bind(const QString& name, QWidget* widget);
+
+  // Runs the routine when the button is clicked, then shows the form's state.
+  void OnClick(const QString& name, std::function<void()> routine);
+
+  // Shows the form's state in the widgets.
+  void Mirror();
+
+  QWidget* Widget(const QString& name) const;
+  // Controls of the form that have no widget yet.
+  QStringList Unbound() const;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MirrorControl(const QString& name, QWidget& widget);
+  void MirrorTabOrder();
+  void MirrorFocus();
+
+  Form& form_;
+  QWidget& root_;
+  QStringList focus_order_;
+  std::map<QString, QWidget*> widgets_;
+  std::map<QWidget*, QString> names_;
+  std::map<QWidget*, bool> focusable_;  // takes the focus at all (buttons, fields)
+  bool mirroring_ = false;
+};
+
+}  // namespace veroxia

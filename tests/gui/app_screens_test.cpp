@@ -1,0 +1,63 @@
+// One main screen at a time: the start screen, what stands in for the screens
+// still to come, and the end of the program.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPointer>
+
+#include "gui/app_screens.h"
+#include "shell/texts.h"
+#include "support/fakes.h"
+
+namespace veroxia::testing {
+namespace {
+
+TEST(AppScreensTest, WithoutAStoreNothingIsShownAndTheStatusIsOne) {
+  TempStore store(false);
+  FakeDialogs dialogs;
+  AppScreens screens(store.vars, dialogs);
+  screens.ShowStart();
+  EXPECT_EQ(screens.QuitStatus(), 1);
+  EXPECT_EQ(screens.Current(), nullptr);
+  EXPECT_EQ(dialogs.LastMessage(), texts::kStoreMissing);
+  for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
+}
+
+TEST(AppScreensTest, AScreenNotYetBuiltSaysSoThenTheStartScreenReturnsUntilQuit) {
+  TempStore store;
+  FakeDialogs dialogs;
+  AppScreens screens(store.vars, dialogs);
+  screens.ShowStart();
+  QPointer<QWidget> first = screens.Current();
+  ASSERT_FALSE(first.isNull());
+  EXPECT_TRUE(first->isVisible());
+
+  using Show = void (*)(AppScreens&);
+  for (const Show show : {+[](AppScreens& s) { s.ShowHeader(Kind::Common); },
+                          +[](AppScreens& s) { s.ShowHeader(Kind::Construction); },
+                          +[](AppScreens& s) { s.ShowLines(Kind::Common); }}) {
+    dialogs.messages.clear();
+    show(screens);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].text, texts::kNotAvailableYet);
+    EXPECT_EQ(dialogs.messages[0].title, texts::kAppTitle);
+    ASSERT_NE(screens.Current(), nullptr);
+    EXPECT_TRUE(screens.Current()->isVisible());
+  }
+  EXPECT_NE(screens.Current(), first.data());
+  // The screen shown before is closed, and destroyed once its event is over.
+  QApplication::processEvents();
+  EXPECT_TRUE(first.isNull());
+  EXPECT_TRUE(store.vars.StoreOpen);
+  EXPECT_FALSE(screens.QuitStatus().has_value());
+
+  QPointer<QWidget> last = screens.Current();
+  screens.Quit(0);
+  EXPECT_EQ(screens.QuitStatus(), 0);
+  EXPECT_EQ(screens.Current(), nullptr);
+  EXPECT_TRUE(last.isNull() || !last->isVisible());
+}
+
+}  // namespace
+}  // namespace veroxia::testing
