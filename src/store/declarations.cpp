@@ -23,14 +23,18 @@ std::optional<Text> FindDeclaration(Database& db, Kind kind, const PeriodTexts& 
     statement = &db.Prepare("SELECT id FROM QOR_CON_EMPLOYERS WHERE from_month = ? AND from_year = ?");
   }
   statement->Bind(1, period.from_month).Bind(2, period.from_year);
-  if (!statement->Next()) return std::nullopt;
-  return statement->Value(0);
+  std::optional<Text> id;
+  if (statement->Next()) id = statement->Value(0);
+  statement->Reset();  // releases the read at once
+  return id;
 }
 
 Text MaxId(Database& db, Kind kind) {
   Statement& statement = db.Prepare(Sql("SELECT max(id) AS MaxId FROM %1", TablesOf(kind).header));
   statement.Next();  // an aggregate always gives one row
-  return statement.Value(0);
+  const Text highest = statement.Value(0);
+  statement.Reset();
+  return highest;
 }
 
 int CountLines(Database& db, Kind kind, int id) {
@@ -38,7 +42,9 @@ int CountLines(Database& db, Kind kind, int id) {
       db.Prepare(Sql("SELECT count(*) AS Cnt FROM %1 WHERE id = ?", TablesOf(kind).lines));
   statement.Bind(1, id);
   statement.Next();
-  return statement.Int(0);
+  const int count = statement.Int(0);
+  statement.Reset();
+  return count;
 }
 
 void ClearScratch(Database& db, Kind kind) {

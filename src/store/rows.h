@@ -80,8 +80,10 @@ std::optional<Row> SelectHeader(Database& db, int id) {
                          QByteArray(Row::kTable) + " WHERE id = ?";
   Statement& statement = db.Prepare(sql.constData());
   statement.Bind(1, id);
-  if (!statement.Next()) return std::nullopt;
-  return RowFrom<Row>(statement);
+  std::optional<Row> row;
+  if (statement.Next()) row = RowFrom<Row>(statement);
+  statement.Reset();  // releases the read at once
+  return row;
 }
 
 // Every row of a lines table for one id, in the kind's reading order.
