@@ -4,6 +4,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include "gui/ovt_form1_view.h"
 #include "gui/start_view.h"
 #include "shell/texts.h"
 
@@ -15,19 +16,33 @@ AppScreens::~AppScreens() = default;
 
 QWidget* AppScreens::Current() const { return current_ ? current_->view.get() : nullptr; }
 
-void AppScreens::ShowStart() {
-  auto next = std::make_unique<Shown>();
-  next->form = std::make_unique<StartForm>(vars_, dialogs_, *this);
-  if (!next->form->Load()) return;  // the store could not be opened: Quit was called
-  next->view = std::make_unique<StartView>(*next->form);
+void AppScreens::Show(std::unique_ptr<Shown> next) {
   next->view->show();
   Retire();
   current_ = std::move(next);
 }
 
-void AppScreens::ShowHeader(Kind /*kind*/) {
-  dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
-  ShowStart();
+void AppScreens::ShowStart() {
+  auto form = std::make_unique<StartForm>(vars_, dialogs_, *this);
+  if (!form->Load()) return;  // the store could not be opened: Quit was called
+  auto next = std::make_unique<Shown>();
+  next->view = std::make_unique<StartView>(*form);
+  next->form = std::move(form);
+  Show(std::move(next));
+}
+
+void AppScreens::ShowHeader(Kind kind) {
+  if (kind == Kind::Construction) {
+    dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
+    ShowStart();
+    return;
+  }
+  auto form = std::make_unique<OvtForm1>(vars_, dialogs_, *this);
+  form->Load();
+  auto next = std::make_unique<Shown>();
+  next->view = std::make_unique<OvtForm1View>(*form);
+  next->form = std::move(form);
+  Show(std::move(next));
 }
 
 void AppScreens::ShowLines(Kind /*kind*/) {

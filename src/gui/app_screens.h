@@ -14,8 +14,6 @@
 
 namespace veroxia {
 
-class StartView;
-
 class AppScreens : public Screens {
  public:
   AppScreens(Vars& vars, Dialogs& dialogs);
@@ -37,9 +35,11 @@ class AppScreens : public Screens {
  private:
   // A screen's logic and its window; the window is destroyed first.
   struct Shown {
-    std::unique_ptr<StartForm> form;
-    std::unique_ptr<StartView> view;
+    std::unique_ptr<Form> form;
+    std::unique_ptr<QWidget> view;
   };
+  // Shows a screen built now and retires the one shown before.
+  void Show(std::unique_ptr<Shown> next);
   // Hides the screen shown now. It is destroyed later, once the event that
   // closed it (a click in that very screen, maybe) has run to its end.
   void Retire();

@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTimer>
 #include <QWidget>
 
 namespace veroxia {
@@ -26,8 +27,10 @@ void FormBinder::Bind(const QString& name, QWidget* widget) {
   widget->installEventFilter(this);
   if (auto* label = qobject_cast<QLabel*>(widget)) label->setTextFormat(Qt::PlainText);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    connect(edit, &QLineEdit::textEdited, this,
-            [this, name](const QString& text) { form_.Type(name, text); });
+    // A masked box hands over its text as shown, blanks of the mask included.
+    connect(edit, &QLineEdit::textEdited, this, [this, name, edit](const QString& text) {
+      form_.Type(name, edit->inputMask().isEmpty() ? text : edit->displayText());
+    });
   }
 }
 
@@ -58,6 +61,7 @@ void FormBinder::Mirror() {
   for (const auto& [name, widget] : widgets_) MirrorControl(name, *widget);
   MirrorTabOrder();
   MirrorFocus();
+  if (on_mirror_) on_mirror_();
   mirroring_ = false;
   // The window may have moved the focus by itself, away from a control that
   // was hidden or disabled: the form learns where it went.
@@ -77,7 +81,8 @@ void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
   if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
     const int max_length = control.max_length > 0 ? control.max_length : kNoLimit;
     if (edit->maxLength() != max_length) edit->setMaxLength(max_length);
-    if (edit->text() != control.text) edit->setText(control.text);
+    const QString shown = edit->inputMask().isEmpty() ? edit->text() : edit->displayText();
+    if (shown != control.text) edit->setText(control.text);
   } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
     if (button->text() != control.text) button->setText(control.text);
   } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
@@ -120,7 +125,21 @@ bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn && !mirroring_) {
     const auto it = names_.find(static_cast<QWidget*>(watched));
     // Coming back to the field that has the focus already is no move.
-    if (it != names_.end() && it->second != form_.FocusedField()) form_.FocusMovedTo(it->second);
+    if (it != names_.end() && it->second != form_.FocusedField()) {
+      if (on_focus_) {
+        const QString name = it->second;
+        // After the field has taken the focus its own way, the form's
+        // selection is shown.
+        QTimer::singleShot(0, this, [this, name] {
+          if (form_.FocusedField() != name) return;  // an event moved it on since
+          on_focus_(name);
+          Mirror();
+        });
+        form_.FocusMovedTo(name);
+      } else {
+        form_.FocusMovedTo(it->second);
+      }
+    }
   }
   return QObject::eventFilter(watched, event);
 }

@@ -37,6 +37,14 @@ class FormBinder : public QObject {
   // Runs the routine when the button is clicked, then shows the form's state.
   void OnClick(const QString& name, std::function<void()> routine);
 
+  // Runs the routine whenever a control takes the focus (instead of only
+  // noting the move), then shows the form's state.
+  void OnFocus(std::function<void(const QString&)> routine) { on_focus_ = std::move(routine); }
+
+  // Runs after every showing of the form's state, for what a screen shows
+  // beyond its controls' own state.
+  void OnMirror(std::function<void()> routine) { on_mirror_ = std::move(routine); }
+
   // Shows the form's state in the widgets.
   void Mirror();
 
@@ -59,6 +67,8 @@ class FormBinder : public QObject {
   std::map<QWidget*, QString> names_;
   std::map<QWidget*, bool> focusable_;  // takes the focus at all (buttons, fields)
   bool mirroring_ = false;
+  std::function<void(const QString&)> on_focus_;
+  std::function<void()> on_mirror_;
 };
 
 }  // namespace veroxia

@@ -24,7 +24,7 @@ TEST(AppScreensTest, WithoutAStoreNothingIsShownAndTheStatusIsOne) {
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
 }
 
-TEST(AppScreensTest, AScreenNotYetBuiltSaysSoThenTheStartScreenReturnsUntilQuit) {
+TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
   TempStore store;
   FakeDialogs dialogs;
   AppScreens screens(store.vars, dialogs);
@@ -34,8 +34,7 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoThenTheStartScreenReturnsUntilQuit)
   EXPECT_TRUE(first->isVisible());
 
   using Show = void (*)(AppScreens&);
-  for (const Show show : {+[](AppScreens& s) { s.ShowHeader(Kind::Common); },
-                          +[](AppScreens& s) { s.ShowHeader(Kind::Construction); },
+  for (const Show show : {+[](AppScreens& s) { s.ShowHeader(Kind::Construction); },
                           +[](AppScreens& s) { s.ShowLines(Kind::Common); }}) {
     dialogs.messages.clear();
     show(screens);
@@ -51,6 +50,17 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoThenTheStartScreenReturnsUntilQuit)
   EXPECT_TRUE(first.isNull());
   EXPECT_TRUE(store.vars.StoreOpen);
   EXPECT_FALSE(screens.QuitStatus().has_value());
+
+  // The common-business header screen is built: it opens instead of the
+  // start screen, with nothing to say.
+  dialogs.messages.clear();
+  store.vars.DeclarationId = 1;
+  store.vars.PeriodFrom = QStringLiteral("012002");
+  store.vars.PeriodTo = QStringLiteral("012002");
+  screens.ShowHeader(Kind::Common);
+  EXPECT_TRUE(dialogs.messages.empty());
+  ASSERT_NE(screens.Current(), nullptr);
+  EXPECT_EQ(screens.Current()->findChild<QWidget*>(QStringLiteral("SaveCmd"))->isVisible(), true);
 
   QPointer<QWidget> last = screens.Current();
   screens.Quit(0);
