@@ -18,6 +18,8 @@ QWidget* AppScreens::Current() const { return current_ ? current_->view.get() : 
 
 void AppScreens::Show(std::unique_ptr<Shown> next) {
   next->view->show();
+  next->view->raise();
+  next->view->activateWindow();
   Retire();
   current_ = std::move(next);
 }

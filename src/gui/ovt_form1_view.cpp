@@ -14,6 +14,7 @@
 #include "gui/fields.h"
 #include "gui/form_binder.h"
 #include "gui/twips.h"
+#include "gui/wrap_button.h"
 
 namespace veroxia {
 
@@ -64,6 +65,14 @@ OvtForm1View::OvtForm1View(OvtForm1& form)
   binder_->OnClick(u"PrintSumCmd"_s, [this] { form_.PrintSumCmd_Click(); });
   binder_->OnClick(u"CreateFile"_s, [this] { form_.CreateFile_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
+  // The window opens with the focus on the first control that can take it.
+  for (const QString& name : form_.FocusOrder()) {
+    const Control& control = form_.At(name);
+    if (control.visible && control.enabled && control.tab_stop) {
+      form_.GotFocus(name);
+      break;
+    }
+  }
   // The options show the selected type after every event.
   binder_->OnMirror([this] {
     for (int i = 0; i < 3; ++i) {
@@ -212,7 +221,7 @@ QWidget* OvtForm1View::BuildTotals(QWidget* parent) {
 QLayout* OvtForm1View::BuildButtons() {
   auto* row = new QHBoxLayout;
   for (const char* name : {"CreateFile", "PrintSumCmd", "PrintCmd", "QorInsert"}) {
-    row->addWidget(binder_->Add<QPushButton>(QString::fromLatin1(name), this));
+    row->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(name), this));
   }
   // "Save" and "Correct" share one place, "Return" and "Cancel" another: of
   // each pair only one is ever shown.
@@ -220,8 +229,8 @@ QLayout* OvtForm1View::BuildButtons() {
     auto* place = new QWidget(this);
     auto* stack = new QHBoxLayout(place);
     stack->setContentsMargins(0, 0, 0, 0);
-    stack->addWidget(binder_->Add<QPushButton>(QString::fromLatin1(pair.first), place));
-    stack->addWidget(binder_->Add<QPushButton>(QString::fromLatin1(pair.second), place));
+    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.first), place));
+    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.second), place));
     row->addWidget(place);
   }
   return row;

@@ -29,7 +29,11 @@ class ArrowWhileOpen {
   bool active_;
 };
 
-QWidget* Owner() { return QApplication::activeWindow(); }
+QWidget* Owner() {
+  // A window that is closing (hidden) cannot own a box: the box would not show.
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr && active->isVisible() ? active : nullptr;
+}
 
 // Plain text, and buttons that carry their caption only.
 void Prepare(QMessageBox& box) {
