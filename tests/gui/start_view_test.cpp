@@ -47,26 +47,6 @@ class StartViewTest : public ::testing::Test {
   std::unique_ptr<StartView> view;
 };
 
-TEST_F(StartViewTest, EveryControlIsAWidgetWithTheLogicsCaptionAndLength) {
-  EXPECT_TRUE(view->Binder().Unbound().isEmpty())
-      << view->Binder().Unbound().join(' ').toStdString();
-  for (const QString& name : form.Names()) {
-    const QWidget* widget = Find(*view, name);
-    ASSERT_NE(widget, nullptr);
-    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-      EXPECT_EQ(button->text(), form.Text(name)) << name.toStdString();
-    } else if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
-      EXPECT_EQ(edit->maxLength(), form.At(name).max_length) << name.toStdString();
-    } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
-      EXPECT_EQ(label->text(), form.Text(name)) << name.toStdString();
-    }
-  }
-  EXPECT_EQ(view->windowTitle(), form.Title());
-  EXPECT_EQ(view->size(), TwipsSize(*view, StartForm::kWidthTwips, StartForm::kHeightTwips));
-  for (const QString& name : kKindButtons) EXPECT_TRUE(Shown(name)) << name.toStdString();
-  EXPECT_FALSE(Shown("Frame1"));
-}
-
 TEST_F(StartViewTest, TheWindowKeepsItsSize) {
   const QSize fixed = view->size();
   view->resize(fixed * 2);

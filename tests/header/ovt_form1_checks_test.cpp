@@ -124,15 +124,6 @@ INSTANTIATE_TEST_SUITE_P(
       return "Step" + std::to_string(info.param.step) + "_" + info.param.field;
     });
 
-TEST_F(OvtForm1Checks, FieldNamesReachTheSharedChecksWithTheirLatinLetters) {
-  form_->Type(u"Text5"_s, u"1"_s);
-  EXPECT_TRUE(Failure().contains(u"'A.M.E.'"_s));
-  dialogs_.messages.clear();
-  form_->Type(u"Text5"_s, u"1234567890"_s);
-  form_->Type(u"Text9"_s, u"1"_s);
-  EXPECT_TRUE(Failure().contains(u"'T.K.'"_s));
-}
-
 TEST_F(OvtForm1Checks, OnlyTheFirstFailureInTheOrderIsReported) {
   form_->Type(u"Text10"_s, u""_s);
   form_->Type(u"Text17_3"_s, u"x"_s);
@@ -255,26 +246,6 @@ TEST_F(HeaderChecks, UnexpectedErrorGivesTheUnknownErrorMessageOnly) {
   ASSERT_EQ(dialogs_.messages.size(), 1u);
   EXPECT_EQ(dialogs_.messages[0].text, header_texts::kUnknownFieldError);
   EXPECT_EQ(dialogs_.messages[0].title, texts::kAppTitle);
-}
-
-TEST_F(HeaderChecks, AFieldThatDoesNotExistIsAnUnexpectedError) {
-  EXPECT_FALSE(
-      RunHeaderChecks(form_, dialogs_, {FilledCheck(form_, u"Nowhere"_s, u"x"_s, kFocus)}));
-  EXPECT_EQ(dialogs_.LastMessage(), header_texts::kUnknownFieldError);
-}
-
-TEST_F(HeaderChecks, SelectsTheGivenLengthOrTheWholeText) {
-  EXPECT_FALSE(RunHeaderChecks(form_, dialogs_, {[]() {
-                                 return std::optional<FieldFault>({u"B"_s, u"m"_s});
-                               }}));
-  ASSERT_TRUE(form_.SelectionOf(u"B"_s).has_value());
-  EXPECT_EQ(form_.SelectionOf(u"B"_s)->length, 5);
-  EXPECT_FALSE(
-      RunHeaderChecks(form_, dialogs_, {[]() {
-                        return std::optional<FieldFault>({u"B"_s, u"m"_s, OnFault::Select, 2});
-                      }}));
-  EXPECT_EQ(form_.SelectionOf(u"B"_s)->length, 2);
-  EXPECT_TRUE(RunHeaderChecks(form_, dialogs_, {FilledCheck(form_, u"A"_s, u"x"_s, kFocus)}));
 }
 
 }  // namespace

@@ -132,17 +132,6 @@ TEST_F(OvtForm1Load, NullColumnsShowEmptyBoxesAndEmptyDateMasks) {
   EXPECT_EQ(State(), testing::kViewState);
 }
 
-TEST_F(OvtForm1Load, BlankDatesShowTheEmptyMask) {
-  EmployerRow row = StoredRow();
-  row.CreateFlDate = u""_s;
-  row.stop_date = u"   "_s;
-  Store(row);
-  OvtForm1& form = Open();
-  EXPECT_EQ(form.Text(u"FlDateTxt"_s), u"__/__/____"_s);
-  EXPECT_EQ(form.Text(u"StopDateTxt"_s), u"__/__/____"_s);
-}
-
-// An unknown or empty type selects 01 but keeps the stored description.
 TEST_F(OvtForm1Load, UnknownStoredTypeSelectsTheRegularTypeAndKeepsItsDescription) {
   for (const QString& code : {u"07"_s, u""_s}) {
     db_.Exec("DELETE FROM QOR_EMPLOYERS");
@@ -156,17 +145,6 @@ TEST_F(OvtForm1Load, UnknownStoredTypeSelectsTheRegularTypeAndKeepsItsDescriptio
     EXPECT_EQ(form.Text(u"Text1"_s), u"01"_s) << code.toStdString();
     EXPECT_TRUE(form.At(u"Option1Lbl_0"_s).enabled);
   }
-}
-
-TEST_F(OvtForm1Load, StoredTypeThreeSelectsTheResubmission) {
-  EmployerRow row = StoredRow();
-  row.declaration_type = u"03"_s;
-  row.declaration_descr = u"ΚΑΤΙ ΑΛΛΟ"_s;
-  Store(row);
-  OvtForm1& form = Open();
-  EXPECT_EQ(form.SelectedType(), 2);
-  EXPECT_EQ(form.Text(u"Text1"_s), u"03"_s);
-  EXPECT_EQ(form.Text(u"KodDescr"_s), u"ΚΑΤΙ ΑΛΛΟ"_s);
 }
 
 TEST_F(OvtForm1Load, TakenOverHeaderIsLockedWithTheNewPeriodAndNoDates) {

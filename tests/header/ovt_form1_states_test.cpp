@@ -133,81 +133,10 @@ TEST_F(OvtForm1States, OpeningSetsTitleTypeAndPictures) {
   EXPECT_FALSE(dialogs_.busy_calls.empty());
 }
 
-TEST_F(OvtForm1States, MissingPicturesAreSkippedSilently) {
-  OvtForm1& form = Open();
-  EXPECT_TRUE(form.ImagePath().isEmpty());
-  EXPECT_TRUE(form.IconPath().isEmpty());
-  EXPECT_TRUE(dialogs_.messages.empty());
-}
-
-TEST_F(OvtForm1States, NewHeaderOpensWithInitialTexts) {
-  OvtForm1& form = Open();
-  for (const char* total :
-       {"Text14_1", "Text15_1", "Text16_1", "Text14_2", "Text15_2", "Text16_2", "Text14_3",
-        "Text15_3", "Text16_3", "Text17_1", "Text17_2", "Text17_3"}) {
-    EXPECT_EQ(form.Text(QString::fromLatin1(total)), u"0"_s) << total;
-  }
-  for (const char* empty : {"Text2", "Text3", "Text4", "FirstNmTxt", "FatherNmTxt", "Text5",
-                            "Text6", "Text7", "Text8", "Text9", "Text10"}) {
-    EXPECT_TRUE(form.Text(QString::fromLatin1(empty)).isEmpty()) << empty;
-  }
-  EXPECT_EQ(form.Text(u"FlDateTxt"_s), u"__/__/____"_s);
-  EXPECT_EQ(form.Text(u"StopDateTxt"_s), u"__/__/____"_s);
-  EXPECT_EQ(form.Text(u"Text11_1"_s), u"01"_s);
-  EXPECT_EQ(form.Text(u"Text11_2"_s), u"2002"_s);
-  EXPECT_EQ(form.Text(u"Text12_1"_s), u"03"_s);
-  EXPECT_EQ(form.Text(u"Text12_2"_s), u"2002"_s);
-}
-
 struct MaxLength {
   const char* field;
   int length;
 };
-
-TEST_F(OvtForm1States, TypingIsCutAtEachFieldsMaximumLength) {
-  const MaxLength lengths[] = {
-      {"KodDescr", 15},   {"Text2", 3},        {"Text3", 50},    {"Text4", 80},
-      {"FirstNmTxt", 30}, {"FatherNmTxt", 30}, {"Text5", 10},    {"Text6", 9},
-      {"Text7", 50},      {"Text8", 10},       {"Text9", 5},     {"Text10", 30},
-      {"Text11_1", 2},    {"Text11_2", 4},     {"Text12_1", 2},  {"Text12_2", 4},
-      {"FlDateTxt", 10},  {"StopDateTxt", 10}, {"Text14_1", 8},  {"Text15_1", 13},
-      {"Text16_1", 13},   {"Text14_2", 8},     {"Text15_2", 13}, {"Text16_2", 13},
-      {"Text14_3", 8},    {"Text15_3", 13},    {"Text16_3", 13}, {"Text17_1", 8},
-      {"Text17_2", 13},   {"Text17_3", 13},    {"Text13_1", 8},  {"Text13_2", 8},
-      {"Text13_3", 8}};
-  OvtForm1& form = Open();
-  const QString long_text(200, u'9');
-  for (const MaxLength& entry : lengths) {
-    const QString name = QString::fromLatin1(entry.field);
-    form.Type(name, long_text);
-    EXPECT_EQ(form.Text(name).size(), entry.length) << entry.field;
-  }
-  form.Type(u"Text1"_s, long_text);
-  EXPECT_EQ(form.Text(u"Text1"_s), long_text);
-}
-
-// The texts keep their blanks, their Latin look-alike letters and their line
-// breaks exactly.
-TEST_F(OvtForm1States, TextsKeepTheirBlanksAndLetters) {
-  OvtForm1& form = Open();
-  EXPECT_TRUE(form.Text(u"SaveCmd"_s).endsWith(u"η "_s));
-  EXPECT_TRUE(form.Text(u"Text6Lbl"_s).endsWith(u".  (6)"_s));
-  EXPECT_TRUE(form.Text(u"Text11Lbl"_s).endsWith(u")       (MM/EEEE)"_s));
-  EXPECT_TRUE(form.Text(u"Text12Lbl"_s).endsWith(u")          (MM/EEEE)"_s));
-  EXPECT_TRUE(form.Text(u"Option1Lbl_0"_s).startsWith(u" 01 "_s));
-  EXPECT_TRUE(form.Text(u"Option1Lbl_1"_s).startsWith(u"  02 "_s));
-  EXPECT_TRUE(form.Text(u"Option1Lbl_2"_s).startsWith(u"  03 "_s));
-  EXPECT_EQ(header_texts::kNameAme, u"A.M.E."_s);  // Latin capitals
-  EXPECT_EQ(header_texts::kNameTk, u"T.K."_s);
-  EXPECT_TRUE(header_texts::kNameAfm.startsWith(u"A."_s));
-  EXPECT_NE(form.Text(u"Text5Lbl"_s).left(1), u"A"_s);  // the caption's letters are Greek
-  for (const QString& message : {header_texts::kStopDateNotIn01, header_texts::kStopDateNotIn03}) {
-    EXPECT_EQ(message.count(u"\r\n"_s), 1);
-    EXPECT_FALSE(message.contains(u"\r\n\r\n"_s));
-  }
-  EXPECT_FALSE(form.At(u"Text1Lbl"_s).visible);
-  EXPECT_FALSE(form.At(u"KodDescrLbl"_s).visible);
-}
 
 struct TypeCase {
   int index;
