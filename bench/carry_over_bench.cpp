@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 
 #include "shell/carry_over.h"
+#include "silent_ports.h"
 #include "store/rows.h"
 #include "store/schema.h"
 #include "store/store_file.h"
@@ -14,13 +15,7 @@ namespace {
 
 using namespace veroxia;
 
-class SilentDialogs : public Dialogs {
- public:
-  void Message(const QString&, const QString&) override { ++messages; }
-  bool Ask(const QString&, const QString&, AskStyle) override { return false; }
-  void SetBusy(bool) override {}
-  int messages = 0;
-};
+using bench::SilentDialogs;
 
 void BM_CarryOverLines(benchmark::State& state) {
   const int lines = static_cast<int>(state.range(0));

@@ -4,8 +4,10 @@
 #include <QThread>
 #include <QTimer>
 
+#include "gui/lines_view.h"
 #include "gui/ovt_form1_view.h"
 #include "gui/start_view.h"
+#include "lines/ovt_form2.h"
 #include "shell/texts.h"
 
 namespace veroxia {
@@ -47,9 +49,20 @@ void AppScreens::ShowHeader(Kind kind) {
   Show(std::move(next));
 }
 
-void AppScreens::ShowLines(Kind /*kind*/) {
-  dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
-  ShowStart();
+void AppScreens::ShowLines(Kind kind) {
+  if (kind == Kind::Construction) {
+    dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
+    ShowStart();
+    return;
+  }
+  auto form = std::make_unique<OvtForm2>(vars_, dialogs_, *this);
+  form->Load();
+  auto next = std::make_unique<Shown>();
+  next->view = std::make_unique<LinesView>(*form, CommonLinesRows(),
+                                           QRect(OvtForm2::kLeftTwips, OvtForm2::kTopTwips,
+                                                 OvtForm2::kWidthTwips, OvtForm2::kHeightTwips));
+  next->form = std::move(form);
+  Show(std::move(next));
 }
 
 void AppScreens::Quit(int status) {

@@ -1,5 +1,6 @@
 #include "gui/form_binder.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -30,8 +31,23 @@ void FormBinder::Bind(const QString& name, QWidget* widget) {
     // A masked box hands over its text as shown, blanks of the mask included.
     connect(edit, &QLineEdit::textEdited, this, [this, name, edit](const QString& text) {
       form_.Type(name, edit->inputMask().isEmpty() ? text : edit->displayText());
+      Edited(name);
     });
   }
+  if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+    // A choice box takes a choice from its list or a text typed into it.
+    connect(combo, &QComboBox::currentTextChanged, this, [this, name](const QString& text) {
+      if (mirroring_) return;
+      form_.Type(name, text);
+      Edited(name);
+    });
+  }
+}
+
+void FormBinder::Edited(const QString& name) {
+  if (!on_edit_) return;
+  on_edit_(name);
+  Mirror();
 }
 
 void FormBinder::OnClick(const QString& name, std::function<void()> routine) {
@@ -83,6 +99,14 @@ void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
     if (edit->maxLength() != max_length) edit->setMaxLength(max_length);
     const QString shown = edit->inputMask().isEmpty() ? edit->text() : edit->displayText();
     if (shown != control.text) edit->setText(control.text);
+  } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
+    if (combo->currentText() != control.text) {
+      if (combo->isEditable()) {
+        combo->setEditText(control.text);
+      } else {
+        combo->setCurrentText(control.text);
+      }
+    }
   } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
     if (button->text() != control.text) button->setText(control.text);
   } else if (auto* label = qobject_cast<QLabel*>(&widget)) {

@@ -41,6 +41,10 @@ class FormBinder : public QObject {
   // noting the move), then shows the form's state.
   void OnFocus(std::function<void(const QString&)> routine) { on_focus_ = std::move(routine); }
 
+  // Runs after the user changed the text of a field (the form has the new
+  // text already), then shows the form's state.
+  void OnEdit(std::function<void(const QString&)> routine) { on_edit_ = std::move(routine); }
+
   // Runs after every showing of the form's state, for what a screen shows
   // beyond its controls' own state.
   void OnMirror(std::function<void()> routine) { on_mirror_ = std::move(routine); }
@@ -56,6 +60,7 @@ class FormBinder : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void Edited(const QString& name);
   void MirrorControl(const QString& name, QWidget& widget);
   void MirrorTabOrder();
   void MirrorFocus();
@@ -69,6 +74,7 @@ class FormBinder : public QObject {
   bool mirroring_ = false;
   std::function<void(const QString&)> on_focus_;
   std::function<void()> on_mirror_;
+  std::function<void(const QString&)> on_edit_;
 };
 
 }  // namespace veroxia

@@ -6,6 +6,9 @@
 #include <QMessageBox>
 #include <cstdio>
 
+#include "gui/search_view.h"
+#include "lines/texts.h"
+#include "shell/search_form.h"
 #include "shell/texts.h"
 
 namespace veroxia {
@@ -93,6 +96,18 @@ bool QtDialogs::Ask(const QString& text, const QString& title, AskStyle style) {
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
+}
+
+SearchAnswer QtDialogs::AskInsuredPerson() {
+  if (unattended_) {
+    Print(lines_texts::kSearchTitle, texts::kAppTitle);
+    return {};
+  }
+  ArrowWhileOpen arrow(busy_);
+  SearchForm form(QCoreApplication::applicationDirPath(), *this);
+  form.Load();
+  SearchView view(form, Owner());
+  return view.Ask();
 }
 
 void QtDialogs::SetBusy(bool busy) {

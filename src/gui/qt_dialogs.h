@@ -30,6 +30,9 @@ class QtDialogs : public Dialogs {
   // The pointer is either busy or not: turning it on twice and off once
   // leaves the normal pointer, as does turning it off when it is not on.
   void SetBusy(bool busy) override;
+  // The search dialog over the window shown now; cancelled at once in
+  // unattended runs.
+  SearchAnswer AskInsuredPerson() override;
 
   bool Busy() const { return busy_; }
 

@@ -75,6 +75,30 @@ HeaderCheck DateBoxCheck(const Form& form, const QString& field, const QString& 
   };
 }
 
+HeaderCheck IfFilled(const Form& form, const QString& field, HeaderCheck check) {
+  return [&form, field, check = std::move(check)]() -> std::optional<FieldFault> {
+    if (form.Text(field).trimmed().isEmpty()) return std::nullopt;
+    return check();
+  };
+}
+
+HeaderCheck DateFilledCheck(const Form& form, const QString& field, const QString& message) {
+  return [&form, field, message]() -> std::optional<FieldFault> {
+    if (!DateBoxIsEmpty(form.Text(field))) return std::nullopt;
+    return FieldFault{field, message, OnFault::Focus};
+  };
+}
+
+HeaderCheck ChoiceCheck(const Form& form, const QString& field, const QString& blank,
+                        const QString& wrong, const QStringList& choices) {
+  return [&form, field, blank, wrong, choices]() -> std::optional<FieldFault> {
+    const QString text = form.Text(field);
+    if (text.trimmed().isEmpty()) return FieldFault{field, blank, OnFault::Select};
+    if (choices.contains(text.toUpper())) return std::nullopt;
+    return FieldFault{field, wrong, OnFault::Select};
+  };
+}
+
 HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index) {
   return [&form, field, type_index]() -> std::optional<FieldFault> {
     const QString text = form.Text(field);

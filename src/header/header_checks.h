@@ -4,6 +4,7 @@
 // focused; the sequence then answers false.
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -47,6 +48,14 @@ HeaderCheck DecimalCheck(const Form& form, const QString& field, const QString& 
 HeaderCheck NamedCheck(const Form& form, const QString& field, const QString& name);
 // CheckDate on a date box's full text, only when something is typed; selects.
 HeaderCheck DateBoxCheck(const Form& form, const QString& field, const QString& name);
+// The rule applies only when the field's trimmed text is not empty.
+HeaderCheck IfFilled(const Form& form, const QString& field, HeaderCheck check);
+// A date box must hold a typed character; only focuses.
+HeaderCheck DateFilledCheck(const Form& form, const QString& field, const QString& message);
+// A choice box must not be blank and must hold one of its choices in any
+// case; selects.
+HeaderCheck ChoiceCheck(const Form& form, const QString& field, const QString& blank,
+                        const QString& wrong, const QStringList& choices);
 // The stop date against the selected declaration type (0: 01, 1: 02, 2: 03):
 // an extraordinary declaration needs a valid date, the other two forbid one.
 HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index);

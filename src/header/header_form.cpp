@@ -26,20 +26,6 @@ QString OptionCaptionName(int index) { return u"Option1Lbl_"_s + QString::number
 
 bool IsDateBox(const HeaderField& field) { return field.insert_as == StoreAs::Date; }
 
-QString StoredText(StoreAs how, const QString& text) {
-  switch (how) {
-    case StoreAs::Clean:
-      return GreekUpper(text).toUpper();
-    case StoreAs::Upper:
-      return text.toUpper();
-    case StoreAs::Date:
-      return DateBoxValue(text);
-    case StoreAs::Text:
-      break;
-  }
-  return text;
-}
-
 }  // namespace
 
 HeaderForm::HeaderForm(Vars& vars, Dialogs& dialogs, Screens& screens, const HeaderLayout& layout)

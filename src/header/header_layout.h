@@ -9,17 +9,10 @@
 #include <array>
 #include <vector>
 
+#include "shell/stored_values.h"
 #include "store/kind.h"
 
 namespace veroxia {
-
-// How a field's text becomes a column value.
-enum class StoreAs {
-  Text,   // exactly as typed
-  Clean,  // GreekUpper (trimmed, accents removed), then upper case
-  Upper,  // upper case only, not trimmed
-  Date,   // a masked date box: empty when nothing is typed, else its full text
-};
 
 // When a field is filled from a stored header row.
 enum class LoadAs {

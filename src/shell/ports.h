@@ -10,6 +10,14 @@ namespace veroxia {
 
 enum class AskStyle { Plain, Question };  // Question: question icon, No as default
 
+// What the insured-person search dialog hands back: the key as typed (empty
+// when the user cancelled) and its kind, "AMA" for a register number or
+// "NAME" for a surname.
+struct SearchAnswer {
+  QString text;
+  QString kind;
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -19,6 +27,8 @@ class Dialogs {
   virtual bool Ask(const QString& text, const QString& title, AskStyle style) = 0;
   // The hourglass pointer on or off.
   virtual void SetBusy(bool busy) = 0;
+  // The insured-person search dialog, modal.
+  virtual SearchAnswer AskInsuredPerson() = 0;
 };
 
 // Which main screen is shown; exactly one at a time. Showing a screen closes

@@ -87,8 +87,8 @@ Statement& Database::Prepare(std::string_view sql) {
   auto& slot = cache_->statements[key];
   if (!slot) {
     sqlite3_stmt* stmt = nullptr;
-    if (sqlite3_prepare_v2(db_, key.c_str(), static_cast<int>(key.size()),
-                           &stmt, nullptr) != SQLITE_OK) {
+    if (sqlite3_prepare_v2(db_, key.c_str(), static_cast<int>(key.size()), &stmt, nullptr) !=
+        SQLITE_OK) {
       cache_->statements.erase(key);
       Fail();
     }
@@ -114,6 +114,19 @@ Statement& Statement::Reset() {
 Statement& Statement::Bind(int index, int value) {
   if (sqlite3_bind_int(stmt_, index, value) != SQLITE_OK) db_.Fail();
   return *this;
+}
+
+Statement& Statement::Bind(int index, qint64 value) {
+  if (sqlite3_bind_int64(stmt_, index, value) != SQLITE_OK) db_.Fail();
+  return *this;
+}
+
+Statement& Statement::Bind(int index, std::optional<int> value) {
+  if (!value) {
+    if (sqlite3_bind_null(stmt_, index) != SQLITE_OK) db_.Fail();
+    return *this;
+  }
+  return Bind(index, *value);
 }
 
 Statement& Statement::Bind(int index, const QString& value) {
@@ -154,6 +167,8 @@ bool Statement::IsNull(int column) const {
 
 int Statement::Int(int column) const { return sqlite3_column_int(stmt_, column); }
 
+qint64 Statement::Int64(int column) const { return sqlite3_column_int64(stmt_, column); }
+
 Text Statement::Value(int column) const {
   if (IsNull(column)) return std::nullopt;
   const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, column));
@@ -171,6 +186,11 @@ Transaction::~Transaction() {
       // abandoned the transaction when ROLLBACK itself fails.
     }
   }
+}
+
+void Transaction::Rollback() {
+  done_ = true;
+  db_.Exec("ROLLBACK");
 }
 
 void Transaction::Commit() {

@@ -4,6 +4,7 @@
 // parameter; only fixed table names are ever joined into statement text.
 
 #include <QString>
+#include <QtGlobal>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -74,6 +75,8 @@ class Statement {
 
   Statement& Reset();  // clears bindings and the previous run
   Statement& Bind(int index, int value);
+  Statement& Bind(int index, qint64 value);
+  Statement& Bind(int index, std::optional<int> value);  // Null when empty
   Statement& Bind(int index, const QString& value);
   Statement& Bind(int index, const Text& value);
 
@@ -83,6 +86,7 @@ class Statement {
   bool Next();
   bool IsNull(int column) const;
   int Int(int column) const;
+  qint64 Int64(int column) const;
   Text Value(int column) const;  // any column as text, Null kept
 
  private:
@@ -98,6 +102,7 @@ class Transaction {
   Transaction(const Transaction&) = delete;
   Transaction& operator=(const Transaction&) = delete;
   void Commit();
+  void Rollback();
 
  private:
   Database& db_;

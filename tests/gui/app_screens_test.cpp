@@ -35,7 +35,7 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
 
   using Show = void (*)(AppScreens&);
   for (const Show show : {+[](AppScreens& s) { s.ShowHeader(Kind::Construction); },
-                          +[](AppScreens& s) { s.ShowLines(Kind::Common); }}) {
+                          +[](AppScreens& s) { s.ShowLines(Kind::Construction); }}) {
     dialogs.messages.clear();
     show(screens);
     ASSERT_EQ(dialogs.messages.size(), 1u);
@@ -61,6 +61,11 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
   EXPECT_TRUE(dialogs.messages.empty());
   ASSERT_NE(screens.Current(), nullptr);
   EXPECT_EQ(screens.Current()->findChild<QWidget*>(QStringLiteral("SaveCmd"))->isVisible(), true);
+  // So is the common-business employee screen, in new mode without lines.
+  screens.ShowLines(Kind::Common);
+  EXPECT_TRUE(dialogs.messages.empty());
+  ASSERT_NE(screens.Current(), nullptr);
+  EXPECT_EQ(screens.Current()->findChild<QWidget*>(QStringLiteral("OkCmd"))->isVisible(), true);
 
   QPointer<QWidget> last = screens.Current();
   screens.Quit(0);

@@ -36,6 +36,14 @@ class FakeDialogs : public Dialogs {
     this->busy = busy;
   }
 
+  SearchAnswer AskInsuredPerson() override {
+    ++searches_asked;
+    if (searches.empty()) return {};
+    const SearchAnswer answer = searches.front();
+    searches.pop_front();
+    return answer;
+  }
+
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
 
   std::vector<ShownMessage> messages;
@@ -44,6 +52,8 @@ class FakeDialogs : public Dialogs {
   AskStyle last_style = AskStyle::Plain;
   std::vector<bool> busy_calls;
   bool busy = false;
+  std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
+  int searches_asked = 0;
 };
 
 class FakeScreens : public Screens {

@@ -1,0 +1,29 @@
+#pragma once
+// Stand-ins for the person in front of the screen during a measurement:
+// every message is counted, every question answered Yes, the search dialog
+// answers the key it was given.
+
+#include "shell/ports.h"
+
+namespace veroxia::bench {
+
+class SilentDialogs : public Dialogs {
+ public:
+  void Message(const QString&, const QString&) override { ++messages; }
+  bool Ask(const QString&, const QString&, AskStyle) override { return true; }
+  void SetBusy(bool) override {}
+  SearchAnswer AskInsuredPerson() override { return search; }
+
+  int messages = 0;
+  SearchAnswer search;
+};
+
+class SilentScreens : public Screens {
+ public:
+  void ShowStart() override {}
+  void ShowHeader(Kind) override {}
+  void ShowLines(Kind) override {}
+  void Quit(int) override {}
+};
+
+}  // namespace veroxia::bench

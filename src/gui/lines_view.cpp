@@ -1,0 +1,205 @@
+#include "gui/lines_view.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "gui/arrows.h"
+#include "gui/fields.h"
+#include "gui/form_binder.h"
+#include "gui/twips.h"
+#include "gui/wrap_button.h"
+
+namespace veroxia {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double kFontPoints = 8.0;
+constexpr int kMarginTwips = 90;
+constexpr int kDateBoxChars = 10;
+const QString kDateMask = u"99/99/9999;_"_s;
+
+const LineField* FieldNamed(const LinesLayout& layout, const QString& name) {
+  for (const LineField& field : layout.fields) {
+    if (field.name == name) return &field;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+const std::vector<LinesRow>& CommonLinesRows() {
+  const auto one = [](const char* box) {
+    const QString number = QString::fromLatin1(box);
+    return LinesPlace{u"Text"_s + number + u"Lbl"_s, {u"Text"_s + number}, {}};
+  };
+  const auto two = [](const char* box) {
+    const QString number = QString::fromLatin1(box);
+    return LinesPlace{u"Text"_s + number + u"Lbl"_s,
+                      {u"Text"_s + number + u"_1"_s, u"Text"_s + number + u"_2"_s},
+                      u"Text"_s + number + u"SepLbl"_s};
+  };
+  static const std::vector<LinesRow> rows{
+      {two("18"), one("19")}, {one("20"), one("26")}, {one("21"), {}},
+      {one("22"), {}},        {one("23"), {}},        {one("24"), {}},
+      {one("25"), one("27")}, {one("29"), one("28")}, {one("30"), one("39")},
+      {one("31"), one("40")}, {one("32"), one("41")}, {two("33"), one("42")},
+      {one("34"), one("43")}, {one("35"), one("44")}, {one("36"), one("45")},
+      {one("37"), one("46")}, {one("38"), {}},
+  };
+  return rows;
+}
+
+LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect twips)
+    : form_(form), binder_(new FormBinder(form, *this, form.FocusOrder())) {
+  QFont small = font();
+  small.setPointSizeF(kFontPoints);
+  setFont(small);
+  setWindowTitle(form_.Title());
+  if (!form_.IconPath().isEmpty()) setWindowIcon(QIcon(form_.IconPath()));
+
+  auto* layout = new QVBoxLayout(this);
+  const int margin = TwipsX(*this, kMarginTwips);
+  layout->setContentsMargins(margin, margin, margin, margin);
+  layout->setSpacing(TwipsY(*this, 60));
+  QLabel* heading = binder_->Add<QLabel>(u"HeadingLbl"_s, this);
+  QFont bold = heading->font();
+  bold.setBold(true);
+  bold.setPointSizeF(kFontPoints + 3);
+  heading->setFont(bold);
+  layout->addWidget(heading, 0, Qt::AlignHCenter);
+  layout->addWidget(BuildFields(rows));
+  layout->addStretch(1);
+  layout->addLayout(BuildButtons());
+
+  binder_->OnClick(u"NewCmd"_s, [this] { form_.NewCmd_Click(); });
+  binder_->OnClick(u"UpDateCmd"_s, [this] { form_.UpDateCmd_Click(); });
+  binder_->OnClick(u"OkCmd"_s, [this] { form_.OkCmd_Click(); });
+  binder_->OnClick(u"CancelCmd"_s, [this] { form_.CancelCmd_Click(); });
+  binder_->OnClick(u"ClearCmd"_s, [this] { form_.ClearCmd_Click(); });
+  binder_->OnClick(u"DeleteCmd"_s, [this] { form_.DeleteCmd_Click(); });
+  binder_->OnClick(u"SeekCmd"_s, [this] { form_.SeekCmd_Click(); });
+  binder_->OnClick(u"BackCmd"_s, [this] { form_.BackCmd_Click(); });
+  binder_->OnClick(u"FirstCmd"_s, [this] { form_.FirstCmd_Click(); });
+  binder_->OnClick(u"PrevCmd"_s, [this] { form_.PrevCmd_Click(); });
+  binder_->OnClick(u"Nextcmd"_s, [this] { form_.Nextcmd_Click(); });
+  binder_->OnClick(u"LastCmd"_s, [this] { form_.LastCmd_Click(); });
+  binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
+  // The window opens with the focus on the first control that can take it.
+  if (form_.FocusedField().isEmpty()) {
+    for (const QString& name : form_.FocusOrder()) {
+      const Control& control = form_.At(name);
+      if (control.visible && control.enabled && control.tab_stop) {
+        form_.GotFocus(name);
+        break;
+      }
+    }
+  }
+  binder_->Mirror();
+  FixWindow(*this, twips.left(), twips.top(), twips.width(), twips.height());
+}
+
+QWidget* LinesView::BuildFields(const std::vector<LinesRow>& rows) {
+  auto* fields = new QWidget(this);
+  auto* grid = new QGridLayout(fields);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(TwipsX(*this, 90));
+  grid->setVerticalSpacing(TwipsY(*this, 15));
+  int row = 0;
+  for (const LinesRow& line : rows) {
+    const bool whole_row = line.right.caption.isEmpty();
+    Place(*grid, fields, line.left, row, 0, whole_row);
+    if (!whole_row) Place(*grid, fields, line.right, row, 2, false);
+    ++row;
+  }
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(3, 1);
+  return fields;
+}
+
+void LinesView::Place(QGridLayout& grid, QWidget* parent, const LinesPlace& place, int row,
+                      int column, bool whole_row) {
+  auto* caption = binder_->Add<QLabel>(place.caption, parent);
+  grid.addWidget(caption, row, column);
+  auto* boxes = new QHBoxLayout;
+  boxes->setSpacing(TwipsX(*this, 45));
+  for (int i = 0; i < place.fields.size(); ++i) {
+    if (i > 0) boxes->addWidget(binder_->Add<QLabel>(place.separator, parent));
+    const LineField* field = FieldNamed(form_.Layout(), place.fields[i]);
+    if (field != nullptr) boxes->addWidget(Field(*field, parent, whole_row));
+  }
+  if (!whole_row) boxes->addStretch(1);
+  grid.addLayout(boxes, row, column + 1, 1, whole_row ? 3 : 1);
+}
+
+QWidget* LinesView::Field(const LineField& field, QWidget* parent, bool stretch) {
+  if (!field.choices.isEmpty()) {
+    auto* combo = new QComboBox(parent);  // owned by parent
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->addItems(field.choices);
+    binder_->Bind(field.name, combo);
+    return combo;
+  }
+  auto* edit = new QLineEdit(parent);  // owned by parent
+  if (field.store == StoreAs::Date) {
+    edit->setInputMask(kDateMask);
+    FitToCharacters(*edit, kDateBoxChars);
+  } else if (!stretch) {
+    FitToCharacters(*edit, field.max_length);
+  }
+  binder_->Bind(field.name, edit);
+  return edit;
+}
+
+QLayout* LinesView::BuildButtons() {
+  auto* row = new QHBoxLayout;
+  const int arrow_size = TwipsY(*this, 240);
+  const std::pair<const char*, Arrow> arrows[] = {{"FirstCmd", Arrow::First},
+                                                  {"PrevCmd", Arrow::Previous},
+                                                  {"Nextcmd", Arrow::Next},
+                                                  {"LastCmd", Arrow::Last}};
+  for (const auto& [name, arrow] : arrows) {
+    auto* button = binder_->Add<QPushButton>(QString::fromLatin1(name), this);
+    button->setIcon(ArrowIcon(arrow, arrow_size));
+    button->setIconSize(QSize(arrow_size, arrow_size));
+    button->setFixedWidth(arrow_size * 2);
+    row->addWidget(button);
+  }
+  row->addSpacing(TwipsX(*this, 120));
+  // "New" and "Store", "Correct" and "Cancel" share a place each: of each
+  // pair only one is ever shown. "Clear" keeps its place when hidden.
+  for (const auto& pair : {std::pair{"NewCmd", "OkCmd"}, std::pair{"UpDateCmd", "CancelCmd"}}) {
+    auto* place = new QWidget(this);
+    auto* stack = new QHBoxLayout(place);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.first), place));
+    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.second), place));
+    row->addWidget(place, 1);
+  }
+  for (const char* name : {"ClearCmd", "DeleteCmd", "SeekCmd", "BackCmd"}) {
+    auto* button = binder_->Add<WrapButton>(QString::fromLatin1(name), this);
+    QSizePolicy policy = button->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    button->setSizePolicy(policy);
+    row->addWidget(button, 1);
+  }
+  return row;
+}
+
+void LinesView::closeEvent(QCloseEvent* event) {
+  if (form_.QueryClose()) {
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace veroxia

@@ -1,0 +1,95 @@
+#include "lines/line_set.h"
+
+#include <QHash>
+#include <algorithm>
+#include <utility>
+
+namespace veroxia {
+
+// Look-ups over the keys for the finds: the first line of each register
+// number (lines of one number stand together, as they are ordered by it),
+// and the surnames sorted, each with its line's position.
+struct LineSet::Index {
+  QHash<QString, qsizetype> first_of_insured;
+  std::vector<std::pair<QString, qsizetype>> surnames;
+};
+
+LineSet::LineSet() = default;
+LineSet::~LineSet() = default;
+
+void LineSet::Open(Database& db, Kind kind, int id) {
+  std::vector<LineKey> keys = SelectLineKeys(db, kind, id);
+  keys_ = std::move(keys);
+  index_.reset();
+  position_ = 0;
+}
+
+const LineKey* LineSet::Current() const {
+  if (Bof() || Eof()) return nullptr;
+  return &keys_[static_cast<size_t>(position_)];
+}
+
+void LineSet::MoveNext() {
+  if (position_ < Size()) ++position_;
+}
+
+void LineSet::MovePrevious() {
+  if (position_ >= 0) --position_;
+}
+
+bool LineSet::MoveTo(std::optional<qsizetype> found) {
+  position_ = found ? *found : Size();
+  return found.has_value();
+}
+
+LineSet::Index& LineSet::Indexes() {
+  if (index_) return *index_;
+  index_ = std::make_unique<Index>();
+  index_->surnames.reserve(keys_.size());
+  for (qsizetype i = 0; i < Size(); ++i) {
+    const LineKey& key = keys_[static_cast<size_t>(i)];
+    if (key.insured_id && !index_->first_of_insured.contains(*key.insured_id)) {
+      index_->first_of_insured.insert(*key.insured_id, i);
+    }
+    if (key.surname) index_->surnames.emplace_back(*key.surname, i);
+  }
+  std::sort(index_->surnames.begin(), index_->surnames.end());
+  return *index_;
+}
+
+bool LineSet::FindRowNum(std::optional<int> row_num) {
+  for (qsizetype i = std::max<qsizetype>(position_, 0); i < Size(); ++i) {
+    const std::optional<int>& number = keys_[static_cast<size_t>(i)].row_num;
+    if (number && row_num && *number == *row_num) return MoveTo(i);
+  }
+  return MoveTo(std::nullopt);
+}
+
+bool LineSet::FindInsuredId(const QString& insured_id) {
+  const qsizetype from = std::max<qsizetype>(position_, 0);
+  const auto& first_of = Indexes().first_of_insured;
+  const auto it = first_of.constFind(insured_id);
+  if (it == first_of.constEnd()) return MoveTo(std::nullopt);
+  if (it.value() >= from) return MoveTo(it.value());
+  // The number's lines began before the position: the position is a match
+  // only while it is still among them.
+  if (from < Size() && keys_[static_cast<size_t>(from)].insured_id == insured_id) {
+    return MoveTo(from);
+  }
+  return MoveTo(std::nullopt);
+}
+
+bool LineSet::FindSurnamePrefix(const QString& prefix) {
+  const qsizetype from = std::max<qsizetype>(position_, 0);
+  const auto& surnames = Indexes().surnames;
+  auto it =
+      std::lower_bound(surnames.begin(), surnames.end(), prefix,
+                       [](const auto& entry, const QString& text) { return entry.first < text; });
+  std::optional<qsizetype> best;
+  for (; it != surnames.end() && it->first.startsWith(prefix); ++it) {
+    if (it->second >= from && (!best || it->second < *best)) best = it->second;
+  }
+  return MoveTo(best);
+}
+
+}  // namespace veroxia

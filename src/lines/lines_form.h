@@ -1,0 +1,107 @@
+#pragma once
+// The logic both employee-line screens share: built from the kind's
+// LinesLayout, it opens the declaration's lines (browse mode on the first
+// line, or new mode when there is none), browses them, switches between the
+// browse, new and edit modes, and inserts, corrects, deletes (closing the gap
+// in the numbering) and finds lines. A kind adds its check sequence and the
+// typed row of its lines table.
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+#include "header/header_columns.h"
+#include "lines/line_set.h"
+#include "lines/lines_layout.h"
+#include "shell/form.h"
+#include "shell/ports.h"
+#include "shell/vars.h"
+
+namespace veroxia {
+
+class LinesForm : public Form {
+ public:
+  LinesForm(Vars& vars, Dialogs& dialogs, Screens& screens, const LinesLayout& layout);
+
+  void Load();
+  // Copies the current line of the set into the fields.
+  void ShowLine();
+  void ClearFields();
+  void SetEntryButtons();
+  void SetBrowseButtons();
+  void EnableLineFields(bool enabled);
+
+  void FirstCmd_Click();
+  void PrevCmd_Click();
+  void Nextcmd_Click();
+  void LastCmd_Click();
+  void NewCmd_Click();
+  void UpDateCmd_Click();
+  void OkCmd_Click();
+  void ClearCmd_Click() { ClearFields(); }
+  void CancelCmd_Click();
+  void DeleteCmd_Click() { DeleteLine(); }
+  void SeekCmd_Click() { SeekLine(); }
+  void BackCmd_Click();
+  // The window is being closed. True when it may close; unless Back closes
+  // it, the user is asked, and Yes ends the program.
+  bool QueryClose();
+  // A field takes the focus: its content is selected.
+  void GotFocus(const QString& name);
+
+  // The kind's check sequence; true when the fields hold a line that may be
+  // stored.
+  virtual bool CheckLine() = 0;
+  void InsertData();
+  void UpdateLine();
+  void DeleteLine();
+  void SeekLine();
+
+  bool EditMode() const { return edit_mode_; }
+  bool NewMode() const { return new_mode_; }
+  bool HasLines() const { return has_lines_; }
+  bool GoingBack() const { return going_back_; }
+  QString CurrentInsuredId() const { return current_insured_id_; }
+  QString CurrentRowNum() const { return current_row_num_; }
+  const LineSet& Lines() const { return line_set_; }
+  const LinesLayout& Layout() const { return layout_; }
+  QString IconPath() const { return icon_path_; }
+  QString FirstField() const { return layout_.fields.front().name; }
+  // The order the tab key follows: the fields in box order, then the buttons.
+  QStringList FocusOrder() const;
+  static QStringList NavigationButtons();
+
+ protected:
+  // The kind's lines table. All throw StoreError.
+  virtual std::optional<ColumnValues> ReadLine(qint64 rowid) = 0;
+  virtual void InsertLine(int id, int row_num, const ColumnValues& values) = 0;
+  virtual int UpdateLineRow(const LineAddress& address, const ColumnValues& values) = 0;
+
+  Vars& vars_;
+  Dialogs& dialogs_;
+  Screens& screens_;
+
+ private:
+  Database& Store() { return *vars_.StoreConnection; }
+  int Id() const { return vars_.DeclarationId; }
+  void OpenLines();
+  // Re-reads the set and shows the line numbered CurrentRowNum, the first
+  // line when none is.
+  void ShowRememberedLine();
+  ColumnValues StoredValues() const;
+  void ShowStoreError(const StoreError& error);
+  void EnterNewMode();
+
+  const LinesLayout& layout_;
+  LineSet line_set_;
+  bool going_back_ = false;
+  bool edit_mode_ = false;
+  bool new_mode_ = false;
+  bool has_lines_ = false;
+  QString current_insured_id_;
+  QString current_row_num_;
+  qint64 current_rowid_ = 0;
+  QString icon_path_;
+};
+
+}  // namespace veroxia

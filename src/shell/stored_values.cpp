@@ -1,0 +1,24 @@
+#include "shell/stored_values.h"
+
+#include "header/date_box.h"
+#include "rules/texts.h"
+
+namespace veroxia {
+
+QString StoredText(StoreAs how, const QString& text, const QString& first_choice) {
+  switch (how) {
+    case StoreAs::Clean:
+      return GreekUpper(text).toUpper();
+    case StoreAs::Upper:
+      return text.toUpper();
+    case StoreAs::Date:
+      return DateBoxValue(text);
+    case StoreAs::Flag:
+      return text.toUpper() == first_choice ? QStringLiteral("1") : QStringLiteral("0");
+    case StoreAs::Text:
+      break;
+  }
+  return text;
+}
+
+}  // namespace veroxia

@@ -1,0 +1,113 @@
+#pragma once
+// A common-business employee screen over its own temporary store: a line that
+// passes every check, lines stored behind the screen, the mode it shows and
+// the lines stored.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "lines/ovt_form2.h"
+#include "store/lines.h"
+#include "support/fakes.h"
+#include "support/printers.h"
+
+namespace veroxia::testing {
+
+using namespace Qt::StringLiterals;
+
+class OvtForm2Test : public ::testing::Test {
+ protected:
+  static constexpr int kId = 4;
+
+  OvtForm2Test() {
+    store_.vars.DeclarationId = kId;
+    store_.vars.PeriodFrom = u"012002"_s;
+    store_.vars.PeriodTo = u"032002"_s;
+  }
+
+  OvtForm2& Open() {
+    form_ = std::make_unique<OvtForm2>(store_.vars, dialogs_, screens_);
+    form_->Load();
+    return *form_;
+  }
+
+  // Types a line that passes every check.
+  void TypeValidLine(const QString& insured_id = u"123456789"_s,
+                     const QString& surname = u"Παπαδάκης"_s) {
+    const std::pair<const char*, QString> typed[] = {
+        {"Text18_1", u"0001"_s},      {"Text18_2", u"5510"_s},     {"Text19", insured_id},
+        {"Text20", u"12345678901"_s}, {"Text21", surname},         {"Text22", u"Γιώργος"_s},
+        {"Text23", u"Νίκος"_s},       {"Text24", u"Ελένη"_s},      {"Text25", u"05/03/1970"_s},
+        {"Text26", u"123456789"_s},   {"Text27", u"ναι"_s},        {"Text28", u"ΟΧΙ"_s},
+        {"Text29", u"0"_s},           {"Text30", u"913000"_s},     {"Text31", u""_s},
+        {"Text32", u"101"_s},         {"Text33_1", u"02"_s},       {"Text33_2", u"2002"_s},
+        {"Text34", u"__/__/____"_s},  {"Text35", u"28/02/2002"_s}, {"Text36", u"01"_s},
+        {"Text37", u"25"_s},          {"Text38", u""_s},           {"Text39", u"1000,50"_s},
+        {"Text40", u"160"_s},         {"Text41", u"280,5"_s},      {"Text42", u"440,5"_s},
+        {"Text43", u"0"_s},           {"Text44", u"0"_s},          {"Text45", u"0"_s},
+        {"Text46", u"440,5"_s},
+    };
+    for (const auto& [name, text] : typed) form_->Type(QString::fromLatin1(name), text);
+  }
+
+  // A line stored behind the screen, with its number, register number and
+  // surname; the other columns as a valid typed line would store them.
+  void StoreLine(int row_num, const QString& insured_id, const QString& surname,
+                 const QString& month = u"01"_s, int id = kId) {
+    EmployeeRow row;
+    row.id = id;
+    row.row_num = row_num;
+    row.insured_id = insured_id;
+    row.surname = surname;
+    row.sal_month = month;
+    row.sal_year = u"2002"_s;
+    row.full_day = u"1"_s;
+    row.all_days = u"0"_s;
+    ASSERT_EQ(InsertRow(db_, row), 1);
+  }
+
+  // (row_num, insured_id, surname) of the declaration's lines by number.
+  std::vector<std::tuple<int, QString, QString>> Stored() {
+    Statement& select = db_.Prepare(
+        "SELECT row_num, insured_id, surname FROM QOR_EMPLOYEES WHERE id = ? ORDER BY row_num, "
+        "rowid");
+    select.Bind(1, kId);
+    std::vector<std::tuple<int, QString, QString>> lines;
+    while (select.Next()) {
+      lines.emplace_back(select.Int(0), select.Value(1).value_or(u"<null>"_s),
+                         select.Value(2).value_or(u"<null>"_s));
+    }
+    return lines;
+  }
+
+  // "browse", "new" or "edit", after checking that the buttons and fields
+  // agree with it.
+  QString Mode() const {
+    const OvtForm2& form = *form_;
+    const bool entry = form.At(u"OkCmd"_s).visible;
+    for (const char* name : {"OkCmd", "ClearCmd", "CancelCmd"}) {
+      EXPECT_EQ(form.At(QString::fromLatin1(name)).visible, entry) << name;
+    }
+    for (const char* name : {"NewCmd", "UpDateCmd"}) {
+      EXPECT_EQ(form.At(QString::fromLatin1(name)).visible, !entry) << name;
+    }
+    for (const char* name : {"FirstCmd", "PrevCmd", "Nextcmd", "LastCmd", "SeekCmd", "DeleteCmd"}) {
+      EXPECT_EQ(form.At(QString::fromLatin1(name)).enabled, !entry) << name;
+    }
+    for (const LineField& field : form.Layout().fields) {
+      EXPECT_EQ(form.At(field.name).enabled, entry) << field.name.toStdString();
+    }
+    EXPECT_TRUE(form.At(u"BackCmd"_s).visible && form.At(u"BackCmd"_s).enabled);
+    if (!entry) return u"browse"_s;
+    return form.EditMode() ? u"edit"_s : u"new"_s;
+  }
+
+  TempStore store_;
+  Database& db_ = store_.Open();
+  FakeDialogs dialogs_;
+  FakeScreens screens_;
+  std::unique_ptr<OvtForm2> form_;
+};
+
+}  // namespace veroxia::testing
