@@ -46,14 +46,27 @@ const std::vector<LinesRow>& CommonLinesRows() {
                       {u"Text"_s + number + u"_1"_s, u"Text"_s + number + u"_2"_s},
                       u"Text"_s + number + u"SepLbl"_s};
   };
+  // clang-format off
   static const std::vector<LinesRow> rows{
-      {two("18"), one("19")}, {one("20"), one("26")}, {one("21"), {}},
-      {one("22"), {}},        {one("23"), {}},        {one("24"), {}},
-      {one("25"), one("27")}, {one("29"), one("28")}, {one("30"), one("39")},
-      {one("31"), one("40")}, {one("32"), one("41")}, {two("33"), one("42")},
-      {one("34"), one("43")}, {one("35"), one("44")}, {one("36"), one("45")},
-      {one("37"), one("46")}, {one("38"), {}},
+      {two("18"), one("19")},
+      {one("20"), one("26")},
+      {one("21"), {}, true},
+      {one("22"), {}, true},
+      {one("23"), {}, true},
+      {one("24"), {}, true},
+      {one("25"), one("27")},
+      {one("29"), one("28")},
+      {one("30"), one("39")},
+      {one("31"), one("40")},
+      {one("32"), one("41")},
+      {two("33"), one("42")},
+      {one("34"), one("43")},
+      {one("35"), one("44")},
+      {one("36"), one("45")},
+      {one("37"), one("46")},
+      {one("38"), {}},
   };
+  // clang-format on
   return rows;
 }
 
@@ -114,9 +127,8 @@ QWidget* LinesView::BuildFields(const std::vector<LinesRow>& rows) {
   grid->setVerticalSpacing(TwipsY(*this, 15));
   int row = 0;
   for (const LinesRow& line : rows) {
-    const bool whole_row = line.right.caption.isEmpty();
-    Place(*grid, fields, line.left, row, 0, whole_row);
-    if (!whole_row) Place(*grid, fields, line.right, row, 2, false);
+    Place(*grid, fields, line.left, row, 0, line.span);
+    if (!line.right.caption.isEmpty()) Place(*grid, fields, line.right, row, 2, false);
     ++row;
   }
   grid->setColumnStretch(1, 1);

@@ -27,7 +27,8 @@ struct LinesPlace {
 };
 struct LinesRow {
   LinesPlace left;
-  LinesPlace right;  // empty caption: the left place spans the row
+  LinesPlace right;   // empty caption: nothing on the right
+  bool span = false;  // the left field takes the whole width of the row
 };
 
 class LinesView : public QWidget {

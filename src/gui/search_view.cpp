@@ -36,7 +36,9 @@ SearchView::SearchView(SearchForm& form, QWidget* parent)
   grid->addWidget(number, 1, 1, Qt::AlignLeft);
   column->addLayout(grid);
   auto* buttons = new QHBoxLayout;
-  buttons->addWidget(binder_->Add<WrapButton>(u"Command1"_s, this));
+  auto* find = binder_->Add<WrapButton>(u"Command1"_s, this);
+  find->setDefault(true);  // Enter searches
+  buttons->addWidget(find);
   buttons->addStretch(1);
   buttons->addWidget(binder_->Add<WrapButton>(u"Command2"_s, this));
   column->addLayout(buttons);

@@ -1,0 +1,114 @@
+// The employee window and the search dialog: real widgets, typed into and
+// clicked.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "gui/driver.h"
+#include "gui/lines_view.h"
+#include "gui/search_view.h"
+#include "lines/ovt_form2.h"
+#include "lines/texts.h"
+#include "store/lines.h"
+#include "support/fakes.h"
+
+namespace veroxia::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class LinesViewTest : public ::testing::Test {
+ protected:
+  LinesViewTest() : form(store.vars, dialogs, screens) {
+    store.Open();
+    store.vars.DeclarationId = 1;
+    store.vars.PeriodFrom = u"012002"_s;
+    store.vars.PeriodTo = u"012002"_s;
+    form.Load();
+    view = std::make_unique<LinesView>(form, CommonLinesRows(), QRect(500, 100, 10320, 8175));
+    ShowActive(*view);
+  }
+
+  int StoredLines() {
+    return static_cast<int>(SelectLineKeys(*store.vars.StoreConnection, Kind::Common, 1).size());
+  }
+
+  TempStore store;
+  FakeDialogs dialogs;
+  FakeScreens screens;
+  OvtForm2 form;
+  std::unique_ptr<LinesView> view;
+};
+
+TEST_F(LinesViewTest, EveryControlHasItsWidgetAndTheFirstFieldTheFocus) {
+  for (const QString& name : form.Names()) {
+    EXPECT_NE(view->findChild<QWidget*>(name), nullptr) << name.toStdString();
+  }
+  EXPECT_EQ(Focused(*view), u"Text18_1"_s);
+  EXPECT_EQ(Find<QLineEdit>(*view, u"Text25"_s)->displayText(), u"__/__/____"_s);
+  EXPECT_EQ(Find<QComboBox>(*view, u"Text27"_s)->count(), 2);
+  EXPECT_FALSE(Find<QPushButton>(*view, u"NewCmd"_s)->isVisible());
+  EXPECT_FALSE(Find<QPushButton>(*view, u"FirstCmd"_s)->isEnabled());
+}
+
+TEST_F(LinesViewTest, ATypedLineIsStoredAndBrowsedAfterCancel) {
+  const std::pair<const char*, const char*> typed[] = {
+      {"Text18_1", "0001"}, {"Text18_2", "5510"}, {"Text21", "Papas"},    {"Text22", "Ioannis"},
+      {"Text23", "Nikos"},  {"Text24", "Maria"},  {"Text25", "05031970"}, {"Text26", "123456789"},
+      {"Text29", "0"},      {"Text30", "913000"}, {"Text32", "101"},      {"Text33_1", "01"},
+      {"Text33_2", "2002"}, {"Text36", "01"},     {"Text37", "25"},
+  };
+  for (const auto& [name, text] : typed) {
+    TypeInto(*view, QString::fromLatin1(name), QString::fromLatin1(text));
+  }
+  Find<QComboBox>(*view, u"Text28"_s)->setCurrentIndex(1);
+  QApplication::processEvents();
+  EXPECT_EQ(form.Text(u"Text25"_s), u"05/03/1970"_s);
+  EXPECT_EQ(form.Text(u"Text28"_s), lines_texts::kNo);
+  Click(*view, u"OkCmd"_s);
+  EXPECT_EQ(dialogs.LastMessage(), lines_texts::kInsertDone);
+  EXPECT_EQ(StoredLines(), 1);
+  Click(*view, u"CancelCmd"_s);
+  EXPECT_TRUE(Find<QPushButton>(*view, u"NewCmd"_s)->isVisible());
+  EXPECT_FALSE(Find<QLineEdit>(*view, u"Text21"_s)->isEnabled());
+  EXPECT_EQ(Find<QLineEdit>(*view, u"Text21"_s)->text(), u"PAPAS"_s);
+
+  // The close box asks; No keeps the window.
+  view->close();
+  EXPECT_EQ(dialogs.questions.size(), 1u);
+  EXPECT_TRUE(view->isVisible());
+}
+
+TEST(SearchViewTest, OneKeyAtATimeAndTheCloseBoxCancels) {
+  FakeDialogs dialogs;
+  SearchForm form(QString(), dialogs);
+  form.Load();
+  SearchView view(form);
+  ShowActive(view);
+  EXPECT_EQ(Focused(view), u"Text2"_s);
+  TypeInto(view, u"Text2"_s, u"ab"_s);
+  TypeInto(view, u"Text1"_s, u"12"_s);
+  EXPECT_EQ(Find<QLineEdit>(view, u"Text2"_s)->text(), u""_s);
+  Click(view, u"Command1"_s);
+  EXPECT_EQ(dialogs.LastMessage(), lines_texts::kSearchNotNine);
+  EXPECT_TRUE(view.isVisible());
+  TypeInto(view, u"Text1"_s, u"123456789"_s);
+  Click(view, u"Command1"_s);
+  QApplication::processEvents();
+  EXPECT_FALSE(view.isVisible());
+  EXPECT_EQ(form.Answer().text, u"123456789"_s);
+  EXPECT_EQ(form.Answer().kind, u"AMA"_s);
+
+  SearchForm again(QString(), dialogs);
+  SearchView closed(again);
+  QTimer::singleShot(0, &closed, [&closed] { closed.close(); });
+  EXPECT_TRUE(closed.Ask().text.isEmpty());
+}
+
+}  // namespace
+}  // namespace veroxia::testing
