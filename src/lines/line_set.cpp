@@ -10,6 +10,7 @@ namespace veroxia {
 // number (lines of one number stand together, as they are ordered by it),
 // and the surnames sorted, each with its line's position.
 struct LineSet::Index {
+  QHash<qint64, qsizetype> position_of_rowid;
   QHash<QString, qsizetype> first_of_insured;
   std::vector<std::pair<QString, qsizetype>> surnames;
 };
@@ -19,7 +20,18 @@ LineSet::~LineSet() = default;
 
 void LineSet::Open(Database& db, Kind kind, int id) {
   std::vector<LineKey> keys = SelectLineKeys(db, kind, id);
+  db_ = &db;
+  kind_ = kind;
+  id_ = id;
   keys_ = std::move(keys);
+  index_.reset();
+  position_ = 0;
+}
+
+void LineSet::Remove(qint64 rowid) {
+  const auto it = std::find_if(keys_.begin(), keys_.end(),
+                               [rowid](const LineKey& key) { return key.rowid == rowid; });
+  if (it != keys_.end()) keys_.erase(it);
   index_.reset();
   position_ = 0;
 }
@@ -48,6 +60,7 @@ LineSet::Index& LineSet::Indexes() {
   index_->surnames.reserve(keys_.size());
   for (qsizetype i = 0; i < Size(); ++i) {
     const LineKey& key = keys_[static_cast<size_t>(i)];
+    index_->position_of_rowid.insert(key.rowid, i);
     if (key.insured_id && !index_->first_of_insured.contains(*key.insured_id)) {
       index_->first_of_insured.insert(*key.insured_id, i);
     }
@@ -58,11 +71,17 @@ LineSet::Index& LineSet::Indexes() {
 }
 
 bool LineSet::FindRowNum(std::optional<int> row_num) {
-  for (qsizetype i = std::max<qsizetype>(position_, 0); i < Size(); ++i) {
-    const std::optional<int>& number = keys_[static_cast<size_t>(i)].row_num;
-    if (number && row_num && *number == *row_num) return MoveTo(i);
+  const qsizetype from = std::max<qsizetype>(position_, 0);
+  if (db_ == nullptr) return MoveTo(std::nullopt);
+  const auto& position_of = Indexes().position_of_rowid;
+  std::optional<qsizetype> best;
+  for (const qint64 rowid : RowidsOfRowNum(*db_, kind_, id_, row_num)) {
+    const auto it = position_of.constFind(rowid);  // absent: stored behind the screen
+    if (it != position_of.constEnd() && it.value() >= from && (!best || it.value() < *best)) {
+      best = it.value();
+    }
   }
-  return MoveTo(std::nullopt);
+  return MoveTo(best);
 }
 
 bool LineSet::FindInsuredId(const QString& insured_id) {

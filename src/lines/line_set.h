@@ -22,8 +22,12 @@ class LineSet {
   LineSet& operator=(const LineSet&) = delete;
 
   // Reads the keys afresh; the position goes to the first line (or EOF and
-  // BOF together when there is none). Throws StoreError.
+  // BOF together when there is none). The store must outlive the set.
+  // Throws StoreError.
   void Open(Database& db, Kind kind, int id);
+  // Drops the key of a line deleted through the screen, as reading the keys
+  // afresh would; the position goes to the first line.
+  void Remove(qint64 rowid);
 
   bool Empty() const { return keys_.empty(); }
   qsizetype Size() const { return static_cast<qsizetype>(keys_.size()); }
@@ -40,6 +44,7 @@ class LineSet {
 
   // Each find moves to the first line, from the position on, that matches;
   // when none does, the position goes to EOF and the answer is false.
+  // The line number is looked up in the store. Throws StoreError.
   bool FindRowNum(std::optional<int> row_num);
   // The stored register number equal to the text.
   bool FindInsuredId(const QString& insured_id);
@@ -52,6 +57,9 @@ class LineSet {
   bool MoveTo(std::optional<qsizetype> found);
   Index& Indexes();
 
+  Database* db_ = nullptr;
+  Kind kind_ = Kind::Common;
+  int id_ = 0;
   std::vector<LineKey> keys_;
   qsizetype position_ = 0;
   std::unique_ptr<Index> index_;  // built at the first find after Open

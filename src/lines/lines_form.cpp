@@ -112,7 +112,10 @@ void LinesForm::ShowLine() {
   }
   const ColumnValues values = row.value_or(ColumnValues());
   current_rowid_ = key->rowid;
-  current_row_num_ = key->row_num ? QString::number(*key->row_num) : QString();
+  // A line gone behind the screen keeps its register number from the key;
+  // its number is then unknown and nothing can be done to it by number.
+  const veroxia::Text row_num = ValueOf(values, u"row_num"_s);
+  current_row_num_ = row ? FieldText(row_num) : QString();
   current_insured_id_ = FieldText(key->insured_id);
   for (const LineField& field : layout_.fields) {
     const veroxia::Text stored = ValueOf(values, field.column);
@@ -354,7 +357,8 @@ void LinesForm::DeleteLine() {
       CloseNumberGap(Store(), layout_.kind, Id(), *row_num);
     }
     transaction.Commit();
-    OpenLines();
+    // The set holds no line numbers: only the deleted line's key goes.
+    line_set_.Remove(current_rowid_);
   } catch (const StoreError& error) {
     busy.reset();
     ShowStoreError(error);

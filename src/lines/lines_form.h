@@ -19,6 +19,16 @@
 
 namespace veroxia {
 
+// A stored line as column values, its number under "row_num" (absent when
+// Null).
+template <class Row>
+std::optional<ColumnValues> LineColumnValues(const std::optional<StoredLine<Row>>& line) {
+  if (!line) return std::nullopt;
+  ColumnValues values = ColumnValuesOf(line->row);
+  if (line->row_num) values[QStringLiteral("row_num")] = QString::number(*line->row_num);
+  return values;
+}
+
 class LinesForm : public Form {
  public:
   LinesForm(Vars& vars, Dialogs& dialogs, Screens& screens, const LinesLayout& layout);
@@ -72,7 +82,8 @@ class LinesForm : public Form {
   static QStringList NavigationButtons();
 
  protected:
-  // The kind's lines table. All throw StoreError.
+  // The kind's lines table. All throw StoreError. ReadLine gives the line's
+  // number too (LineColumnValues).
   virtual std::optional<ColumnValues> ReadLine(qint64 rowid) = 0;
   virtual void InsertLine(int id, int row_num, const ColumnValues& values) = 0;
   virtual int UpdateLineRow(const LineAddress& address, const ColumnValues& values) = 0;

@@ -170,9 +170,7 @@ bool OvtForm2::CheckLine() {
 }
 
 std::optional<ColumnValues> OvtForm2::ReadLine(qint64 rowid) {
-  const std::optional<EmployeeRow> row = SelectLineAt<EmployeeRow>(*vars_.StoreConnection, rowid);
-  if (!row) return std::nullopt;
-  return ColumnValuesOf(*row);
+  return LineColumnValues(SelectLineAt<EmployeeRow>(*vars_.StoreConnection, rowid));
 }
 
 void OvtForm2::InsertLine(int id, int row_num, const ColumnValues& values) {

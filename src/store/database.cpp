@@ -61,6 +61,15 @@ std::unique_ptr<Database> Database::Open(const QString& path, const QString& pas
   if (sqlite3_db_readonly(db->db_, "main") == 1) {
     throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
   }
+  // Changes are appended to a write-ahead log beside the store and committed
+  // with one flush to disk, where a rollback journal needs several: a line
+  // is stored or deleted in a few milliseconds even on a slow disk. Closing
+  // the store writes the log back and removes it. Where the log cannot be
+  // made (a folder that cannot hold it) the rollback journal stays.
+  try {
+    db->Exec("PRAGMA journal_mode = WAL");
+  } catch (const StoreError&) {
+  }
   return db;
 }
 

@@ -20,7 +20,8 @@ std::optional<Text> FindDeclaration(Database& db, Kind kind, const PeriodTexts& 
         "AND to_year = ?");
     statement->Bind(3, period.to_month).Bind(4, period.to_year);
   } else {
-    statement = &db.Prepare("SELECT id FROM QOR_CON_EMPLOYERS WHERE from_month = ? AND from_year = ?");
+    statement =
+        &db.Prepare("SELECT id FROM QOR_CON_EMPLOYERS WHERE from_month = ? AND from_year = ?");
   }
   statement->Bind(1, period.from_month).Bind(2, period.from_year);
   std::optional<Text> id;
@@ -62,7 +63,8 @@ int FixDailyWages(Database& db, int id) {
 
 int CopyLinesToScratch(Database& db, Kind kind, int id) {
   const KindTables tables = TablesOf(kind);
-  return db.Prepare(Sql("INSERT INTO %1 SELECT * FROM %2 WHERE id = ?", tables.scratch, tables.lines))
+  return db
+      .Prepare(Sql("INSERT INTO %1 SELECT * FROM %2 WHERE id = ?", tables.scratch, tables.lines))
       .Bind(1, id)
       .Run();
 }

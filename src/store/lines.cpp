@@ -9,11 +9,6 @@ QByteArray Sql(const char* pattern, Kind kind) {
   return QByteArray(pattern).replace("%lines", tables.lines).replace("%order", tables.order);
 }
 
-std::optional<int> OptionalInt(const Statement& statement, int column) {
-  if (statement.IsNull(column)) return std::nullopt;
-  return statement.Int(column);
-}
-
 }  // namespace
 
 namespace detail {
@@ -33,15 +28,23 @@ int BindLineAddress(Statement& statement, int first, const LineAddress& address)
 }  // namespace detail
 
 std::vector<LineKey> SelectLineKeys(Database& db, Kind kind, int id) {
-  Statement& statement = db.Prepare(Sql(
-      "SELECT rowid, row_num, insured_id, surname FROM %lines WHERE id = ? ORDER BY %order", kind));
+  Statement& statement = db.Prepare(
+      Sql("SELECT rowid, insured_id, surname FROM %lines WHERE id = ? ORDER BY %order", kind));
   statement.Bind(1, id);
   std::vector<LineKey> keys;
   while (statement.Next()) {
-    keys.push_back(LineKey{statement.Int64(0), OptionalInt(statement, 1), statement.Value(2),
-                           statement.Value(3)});
+    keys.push_back(LineKey{statement.Int64(0), statement.Value(1), statement.Value(2)});
   }
   return keys;
+}
+
+std::vector<qint64> RowidsOfRowNum(Database& db, Kind kind, int id, std::optional<int> row_num) {
+  Statement& statement =
+      db.Prepare(Sql("SELECT rowid FROM %lines WHERE id = ? AND row_num IS ?", kind));
+  statement.Bind(1, id).Bind(2, row_num);
+  std::vector<qint64> rowids;
+  while (statement.Next()) rowids.push_back(statement.Int64(0));
+  return rowids;
 }
 
 Text MaxRowNum(Database& db, Kind kind, int id) {

@@ -15,12 +15,19 @@
 namespace veroxia {
 
 // What the line screens keep of each line in memory: where it is stored and
-// what the finds look at. The rest of a line is read when it is shown.
+// what the finds look at, all read from the index of the reading order. The
+// rest of a line, its number included, is read when it is shown.
 struct LineKey {
   qint64 rowid = 0;
-  std::optional<int> row_num;  // Null in a line another program stored so
   Text insured_id;
   Text surname;
+};
+
+// A stored line and its number (Null in a line another program stored so).
+template <class Row>
+struct StoredLine {
+  Row row;
+  std::optional<int> row_num;
 };
 
 // The line a screen shows, as it was when shown: its place in the table and
@@ -35,6 +42,10 @@ struct LineAddress {
 
 // The keys of a declaration's lines in the kind's reading order.
 std::vector<LineKey> SelectLineKeys(Database& db, Kind kind, int id);
+
+// Where the lines of a declaration with that number are stored (Null: the
+// lines without a number).
+std::vector<qint64> RowidsOfRowNum(Database& db, Kind kind, int id, std::optional<int> row_num);
 
 // The highest line number of a declaration; Null when it has no lines.
 Text MaxRowNum(Database& db, Kind kind, int id);
@@ -56,15 +67,18 @@ int BindLineAddress(Statement& statement, int first, const LineAddress& address)
 
 // The line stored at rowid, if any.
 template <class Row>
-std::optional<Row> SelectLineAt(Database& db, qint64 rowid) {
+std::optional<StoredLine<Row>> SelectLineAt(Database& db, qint64 rowid) {
   const QByteArray sql = "SELECT " + detail::ColumnList(Row::kTable) + " FROM " +
                          QByteArray(Row::kTable) + " WHERE rowid = ?";
   Statement& statement = db.Prepare(sql);
   statement.Bind(1, rowid);
-  std::optional<Row> row;
-  if (statement.Next()) row = RowFrom<Row>(statement);
+  std::optional<StoredLine<Row>> line;
+  if (statement.Next()) {
+    line = StoredLine<Row>{RowFrom<Row>(statement), std::nullopt};
+    if (!statement.IsNull(1)) line->row_num = statement.Int(1);
+  }
   statement.Reset();
-  return row;
+  return line;
 }
 
 // Writes every text column of the line at the address, if it still has the

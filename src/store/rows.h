@@ -12,7 +12,9 @@
 namespace veroxia {
 
 template <class Row>
-concept LineRow = requires(Row row) { row.row_num; };
+concept LineRow = requires(Row row) {
+  row.row_num;
+};
 
 namespace detail {
 // "a, b, c" of the table's columns.

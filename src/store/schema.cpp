@@ -16,8 +16,7 @@ struct TableShape {
 
 const std::array<TableShape, 6>& Tables() {
   static const std::array<TableShape, 6> tables = [] {
-    const QStringList employer{QStringLiteral("id"),
-                               VEROXIA_EMPLOYER_TEXT_COLUMNS(VEROXIA_NAME)};
+    const QStringList employer{QStringLiteral("id"), VEROXIA_EMPLOYER_TEXT_COLUMNS(VEROXIA_NAME)};
     const QStringList con_employer{QStringLiteral("id"),
                                    VEROXIA_CON_EMPLOYER_TEXT_COLUMNS(VEROXIA_NAME)};
     const QStringList employee{QStringLiteral("id"), QStringLiteral("row_num"),
@@ -82,9 +81,9 @@ QStringList SchemaStatements() {
 
 void CheckSchema(Database& db) {
   for (const auto& shape : Tables()) {
-    const QString probe = QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
-                              .arg(shape.columns.join(QStringLiteral(", ")),
-                                   QString::fromLatin1(shape.name));
+    const QString probe =
+        QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
+            .arg(shape.columns.join(QStringLiteral(", ")), QString::fromLatin1(shape.name));
     db.Prepare(probe.toUtf8());
   }
 }

@@ -180,13 +180,21 @@ struct ConEmployeeRow {
 // Calls f(name, member) for each text column of a row, in stored order.
 #define VEROXIA_VISIT(c) f(#c, row.c);
 template <class F>
-void ForEachText(EmployerRow& row, F&& f) { VEROXIA_EMPLOYER_TEXT_COLUMNS(VEROXIA_VISIT) }
+void ForEachText(EmployerRow& row, F&& f) {
+  VEROXIA_EMPLOYER_TEXT_COLUMNS(VEROXIA_VISIT)
+}
 template <class F>
-void ForEachText(ConEmployerRow& row, F&& f) { VEROXIA_CON_EMPLOYER_TEXT_COLUMNS(VEROXIA_VISIT) }
+void ForEachText(ConEmployerRow& row, F&& f) {
+  VEROXIA_CON_EMPLOYER_TEXT_COLUMNS(VEROXIA_VISIT)
+}
 template <class F>
-void ForEachText(EmployeeRow& row, F&& f) { VEROXIA_EMPLOYEE_TEXT_COLUMNS(VEROXIA_VISIT) }
+void ForEachText(EmployeeRow& row, F&& f) {
+  VEROXIA_EMPLOYEE_TEXT_COLUMNS(VEROXIA_VISIT)
+}
 template <class F>
-void ForEachText(ConEmployeeRow& row, F&& f) { VEROXIA_CON_EMPLOYEE_TEXT_COLUMNS(VEROXIA_VISIT) }
+void ForEachText(ConEmployeeRow& row, F&& f) {
+  VEROXIA_CON_EMPLOYEE_TEXT_COLUMNS(VEROXIA_VISIT)
+}
 #undef VEROXIA_VISIT
 
 // Every column of a table, numeric ones first, in stored order.

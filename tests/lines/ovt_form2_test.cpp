@@ -106,8 +106,9 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   EXPECT_EQ(form_->CurrentRowNum(), u"7"_s);
   EXPECT_EQ(form_->CurrentInsuredId(), u"123456789"_s);
 
-  const std::optional<EmployeeRow> row = SelectLineAt<EmployeeRow>(db_, 3);
-  ASSERT_TRUE(row);
+  const auto line = SelectLineAt<EmployeeRow>(db_, 3);
+  ASSERT_TRUE(line);
+  const EmployeeRow* row = &line->row;
   EXPECT_EQ(row->row_num, 6);
   EXPECT_EQ(row->surname, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
   EXPECT_EQ(row->name, u"ΓΙΩΡΓΟΣ"_s);

@@ -1,0 +1,93 @@
+#include "payroll.h"
+
+#include <QStringList>
+
+#include "store/rows.h"
+#include "store/schema.h"
+#include "store/store_file.h"
+
+namespace veroxia::bench {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QStringList& Surnames() {
+  static const QStringList names{
+      u"ΠΑΠΑΔΟΠΟΥΛΟΣ"_s, u"ΒΑΣΙΛΕΙΟΥ"_s, u"ΝΙΚΟΛΑΟΥ"_s,     u"ΓΕΩΡΓΙΟΥ"_s,    u"ΠΑΠΠΑΣ"_s,
+      u"ΟΙΚΟΝΟΜΟΥ"_s,    u"ΜΑΚΡΗΣ"_s,    u"ΚΩΝΣΤΑΝΤΙΝΟΥ"_s, u"ΙΩΑΝΝΟΥ"_s,     u"ΔΗΜΗΤΡΙΟΥ"_s,
+      u"ΑΛΕΞΙΟΥ"_s,      u"ΘΕΟΔΩΡΟΥ"_s,  u"ΚΑΡΑΓΙΑΝΝΗΣ"_s,  u"ΣΤΑΥΡΟΥ"_s,     u"ΧΑΤΖΗΣ"_s,
+      u"ΜΙΧΑΗΛΙΔΗΣ"_s,   u"ΑΘΑΝΑΣΙΟΥ"_s, u"ΠΕΤΡΟΥ"_s,       u"ΣΠΥΡΟΠΟΥΛΟΣ"_s, u"ΛΑΜΠΡΟΥ"_s,
+  };
+  return names;
+}
+
+}  // namespace
+
+QString PayrollInsuredId(int person) { return QString::number(100'000'000 + person * 7); }
+
+QString PayrollSurname(int person) {
+  const QString letters = u"ΑΒΓΔΕΖΗΘΙΚΛΜΝΞΟΠΡΣΤΥΦΧΨΩ"_s;
+  const int n = static_cast<int>(letters.size());
+  return Surnames()[person % Surnames().size()] + u' ' + letters[(person / 20) % n] +
+         letters[(person / 20 / n) % n];
+}
+
+void MakePayrollStore(const QString& path, int lines, int persons) {
+  CreateStore(path, StorePassword());
+  auto db = Database::Open(path, StorePassword());
+  Transaction transaction(*db);
+  EmployerRow header;
+  header.id = kPayrollId;
+  header.from_month = u"01"_s;
+  header.from_year = u"2002"_s;
+  header.to_month = u"03"_s;
+  header.to_year = u"2002"_s;
+  InsertRow(*db, header);
+  // Persons in register-number order, so line numbers follow the reading
+  // order; each person's lines stand together.
+  int line = 0;
+  for (int person = 0; person < persons; ++person) {
+    const int own = (lines - line) / (persons - person);
+    for (int k = 0; k < own; ++k, ++line) {
+      EmployeeRow row;
+      row.id = kPayrollId;
+      row.row_num = line + 1;
+      row.emp_branch_id = u"0001"_s;
+      row.kad = u"5510"_s;
+      row.insured_id = PayrollInsuredId(person);
+      row.amka = QString::number(10'000'000'000LL + person);
+      row.surname = PayrollSurname(person);
+      row.name = u"ΓΕΩΡΓΙΟΣ"_s;
+      row.father_name = u"ΝΙΚΟΛΑΟΣ"_s;
+      row.mother_name = u"ΜΑΡΙΑ"_s;
+      row.birth_date = u"05/03/1970"_s;
+      row.taxation_id = QString::number(100'000'000 + person);
+      row.full_day = u"1"_s;
+      row.all_days = u"1"_s;
+      row.sundays_sum = u"0"_s;
+      row.insur_categ_code = u"913000"_s;
+      row.special_insur_code = QString();
+      row.covcod_cover_code = u"101"_s;
+      row.sal_month = QStringLiteral("%1").arg(k % 3 + 1, 2, 10, QLatin1Char('0'));
+      row.sal_year = u"2002"_s;
+      row.sal_from = QString();
+      row.sal_to = QString();
+      row.wage_code = k < 3 ? u"01"_s : u"03"_s;
+      row.insurance_days = u"25"_s;
+      row.daily_wages = u"40,02"_s;
+      row.salary = u"1000,50"_s;
+      row.insured_contr = u"160"_s;
+      row.employer_contr = u"280,5"_s;
+      row.total_contr = u"440,5"_s;
+      row.subsidy_amount = u"0"_s;
+      row.emp_subsidy_percent = u"0"_s;
+      row.emp_subsidy_amount = u"0"_s;
+      row.payed_contr = u"440,5"_s;
+      InsertRow(*db, row);
+    }
+  }
+  transaction.Commit();
+}
+
+}  // namespace veroxia::bench

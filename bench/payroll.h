@@ -1,0 +1,24 @@
+#pragma once
+// A store holding one common-business declaration with a large payroll: the
+// lines of many persons, several per person (payroll months and wage types),
+// numbered in reading order, every column filled as the screen stores it.
+
+#include <QString>
+
+namespace veroxia::bench {
+
+constexpr int kPayrollId = 1;
+constexpr int kPayrollLines = 100'000;
+constexpr int kPayrollPersons = 30'000;
+
+// Makes the store at path (which must not exist yet).
+void MakePayrollStore(const QString& path, int lines = kPayrollLines,
+                      int persons = kPayrollPersons);
+
+// The register number of a person of the payroll (nine digits).
+QString PayrollInsuredId(int person);
+// The surname of a person of the payroll: one of a few dozen common
+// surnames, made distinct by a trailing letter pair.
+QString PayrollSurname(int person);
+
+}  // namespace veroxia::bench
