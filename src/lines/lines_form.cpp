@@ -126,7 +126,7 @@ void LinesForm::ShowLine() {
     } else if (IsDateBox(field)) {
       text = DateBoxText(stored);
     } else {
-      text = FieldText(stored).left(field.max_length > 0 ? field.max_length : -1);
+      text = FieldText(stored);
     }
   }
 }
