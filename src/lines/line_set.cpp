@@ -6,9 +6,9 @@
 
 namespace veroxia {
 
-// Look-ups over the keys for the finds: the first line of each register
-// number (lines of one number stand together, as they are ordered by it),
-// and the surnames sorted, each with its line's position.
+// Look-ups over the keys for the finds: the position of each line, the first
+// line of each register number, and the surnames sorted, each with its
+// line's position.
 struct LineSet::Index {
   QHash<qint64, qsizetype> position_of_rowid;
   QHash<QString, qsizetype> first_of_insured;
@@ -49,7 +49,7 @@ void LineSet::MovePrevious() {
   if (position_ >= 0) --position_;
 }
 
-bool LineSet::MoveTo(std::optional<qsizetype> found) {
+bool LineSet::Found(std::optional<qsizetype> found) {
   position_ = found ? *found : Size();
   return found.has_value();
 }
@@ -71,44 +71,32 @@ LineSet::Index& LineSet::Indexes() {
 }
 
 bool LineSet::FindRowNum(std::optional<int> row_num) {
-  const qsizetype from = std::max<qsizetype>(position_, 0);
-  if (db_ == nullptr) return MoveTo(std::nullopt);
+  if (db_ == nullptr) return Found(std::nullopt);
   const auto& position_of = Indexes().position_of_rowid;
   std::optional<qsizetype> best;
   for (const qint64 rowid : RowidsOfRowNum(*db_, kind_, id_, row_num)) {
     const auto it = position_of.constFind(rowid);  // absent: stored behind the screen
-    if (it != position_of.constEnd() && it.value() >= from && (!best || it.value() < *best)) {
-      best = it.value();
-    }
+    if (it != position_of.constEnd() && (!best || it.value() < *best)) best = it.value();
   }
-  return MoveTo(best);
+  return Found(best);
 }
 
 bool LineSet::FindInsuredId(const QString& insured_id) {
-  const qsizetype from = std::max<qsizetype>(position_, 0);
   const auto& first_of = Indexes().first_of_insured;
   const auto it = first_of.constFind(insured_id);
-  if (it == first_of.constEnd()) return MoveTo(std::nullopt);
-  if (it.value() >= from) return MoveTo(it.value());
-  // The number's lines began before the position: the position is a match
-  // only while it is still among them.
-  if (from < Size() && keys_[static_cast<size_t>(from)].insured_id == insured_id) {
-    return MoveTo(from);
-  }
-  return MoveTo(std::nullopt);
+  return Found(it == first_of.constEnd() ? std::nullopt : std::optional<qsizetype>(it.value()));
 }
 
 bool LineSet::FindSurnamePrefix(const QString& prefix) {
-  const qsizetype from = std::max<qsizetype>(position_, 0);
   const auto& surnames = Indexes().surnames;
   auto it =
       std::lower_bound(surnames.begin(), surnames.end(), prefix,
                        [](const auto& entry, const QString& text) { return entry.first < text; });
   std::optional<qsizetype> best;
   for (; it != surnames.end() && it->first.startsWith(prefix); ++it) {
-    if (it->second >= from && (!best || it->second < *best)) best = it->second;
+    if (!best || it->second < *best) best = it->second;
   }
-  return MoveTo(best);
+  return Found(best);
 }
 
 }  // namespace veroxia

@@ -38,13 +38,14 @@ class LineSet {
   qsizetype Position() const { return position_; }
 
   void MoveFirst() { position_ = 0; }
+  void MoveTo(qsizetype position) { position_ = position; }
   void MoveLast() { position_ = Size() - 1; }
   void MoveNext();
   void MovePrevious();
 
-  // Each find moves to the first line, from the position on, that matches;
-  // when none does, the position goes to EOF and the answer is false.
-  // The line number is looked up in the store. Throws StoreError.
+  // Each find moves to the first line of the set, in reading order, that
+  // matches; when none does, the position goes to EOF and the answer is
+  // false. The line number is looked up in the store (throws StoreError).
   bool FindRowNum(std::optional<int> row_num);
   // The stored register number equal to the text.
   bool FindInsuredId(const QString& insured_id);
@@ -54,7 +55,7 @@ class LineSet {
 
  private:
   struct Index;
-  bool MoveTo(std::optional<qsizetype> found);
+  bool Found(std::optional<qsizetype> found);
   Index& Indexes();
 
   Database* db_ = nullptr;

@@ -233,6 +233,9 @@ void LinesForm::OpenLines() { line_set_.Open(Store(), layout_.kind, Id()); }
 void LinesForm::ShowRememberedLine() {
   try {
     OpenLines();
+    if (!line_set_.Empty() && !line_set_.FindRowNum(RowNumberOf(current_row_num_))) {
+      line_set_.MoveFirst();
+    }
   } catch (const StoreError& error) {
     ShowStoreError(error);
     return;
@@ -241,8 +244,6 @@ void LinesForm::ShowRememberedLine() {
     EnterNewMode();  // every line was deleted behind the screen's back
     return;
   }
-  line_set_.MoveFirst();
-  if (!line_set_.FindRowNum(RowNumberOf(current_row_num_))) line_set_.MoveFirst();
   ShowLine();
 }
 
@@ -373,12 +374,11 @@ void LinesForm::DeleteLine() {
 }
 
 void LinesForm::SeekLine() {
-  const std::optional<int> remembered = RowNumberOf(current_row_num_);
+  const qsizetype shown = line_set_.Position();
   const SearchAnswer answer = dialogs_.AskInsuredPerson();
   vars_.DialogResult = answer.text;
   if (answer.text.isEmpty()) return;
   vars_.SearchKind = answer.kind;
-  line_set_.MoveFirst();
   bool found = false;
   QString not_found;
   if (vars_.SearchKind != u"AMA"_s) {
@@ -390,8 +390,7 @@ void LinesForm::SeekLine() {
   }
   if (!found) {
     dialogs_.Message(not_found, texts::kAppTitle);
-    line_set_.MoveFirst();
-    line_set_.FindRowNum(remembered);
+    line_set_.MoveTo(shown);  // back to the line shown before the search
   }
   ShowLine();
 }

@@ -32,23 +32,32 @@ class OvtForm2Test : public ::testing::Test {
     return *form_;
   }
 
-  // Types a line that passes every check.
+  // A line that passes every check, field by field.
+  static std::vector<std::pair<QString, QString>> ValidLine(const QString& insured_id,
+                                                            const QString& surname) {
+    return {
+        {u"Text18_1"_s, u"0001"_s},     {u"Text18_2"_s, u"5510"_s},
+        {u"Text19"_s, insured_id},      {u"Text20"_s, u"12345678901"_s},
+        {u"Text21"_s, surname},         {u"Text22"_s, u"Γιώργος"_s},
+        {u"Text23"_s, u"Νίκος"_s},      {u"Text24"_s, u"Ελένη"_s},
+        {u"Text25"_s, u"05/03/1970"_s}, {u"Text26"_s, u"123456789"_s},
+        {u"Text27"_s, u"ναι"_s},        {u"Text28"_s, u"ΟΧΙ"_s},
+        {u"Text29"_s, u"0"_s},          {u"Text30"_s, u"913000"_s},
+        {u"Text31"_s, u""_s},           {u"Text32"_s, u"101"_s},
+        {u"Text33_1"_s, u"02"_s},       {u"Text33_2"_s, u"2002"_s},
+        {u"Text34"_s, u"__/__/____"_s}, {u"Text35"_s, u"28/02/2002"_s},
+        {u"Text36"_s, u"01"_s},         {u"Text37"_s, u"25"_s},
+        {u"Text38"_s, u""_s},           {u"Text39"_s, u"1000,50"_s},
+        {u"Text40"_s, u"160"_s},        {u"Text41"_s, u"280,5"_s},
+        {u"Text42"_s, u"440,5"_s},      {u"Text43"_s, u"1"_s},
+        {u"Text44"_s, u"2"_s},          {u"Text45"_s, u"3"_s},
+        {u"Text46"_s, u"440,5"_s},
+    };
+  }
+
   void TypeValidLine(const QString& insured_id = u"123456789"_s,
                      const QString& surname = u"Παπαδάκης"_s) {
-    const std::pair<const char*, QString> typed[] = {
-        {"Text18_1", u"0001"_s},      {"Text18_2", u"5510"_s},     {"Text19", insured_id},
-        {"Text20", u"12345678901"_s}, {"Text21", surname},         {"Text22", u"Γιώργος"_s},
-        {"Text23", u"Νίκος"_s},       {"Text24", u"Ελένη"_s},      {"Text25", u"05/03/1970"_s},
-        {"Text26", u"123456789"_s},   {"Text27", u"ναι"_s},        {"Text28", u"ΟΧΙ"_s},
-        {"Text29", u"0"_s},           {"Text30", u"913000"_s},     {"Text31", u""_s},
-        {"Text32", u"101"_s},         {"Text33_1", u"02"_s},       {"Text33_2", u"2002"_s},
-        {"Text34", u"__/__/____"_s},  {"Text35", u"28/02/2002"_s}, {"Text36", u"01"_s},
-        {"Text37", u"25"_s},          {"Text38", u""_s},           {"Text39", u"1000,50"_s},
-        {"Text40", u"160"_s},         {"Text41", u"280,5"_s},      {"Text42", u"440,5"_s},
-        {"Text43", u"0"_s},           {"Text44", u"0"_s},          {"Text45", u"0"_s},
-        {"Text46", u"440,5"_s},
-    };
-    for (const auto& [name, text] : typed) form_->Type(QString::fromLatin1(name), text);
+    for (const auto& [name, text] : ValidLine(insured_id, surname)) form_->Type(name, text);
   }
 
   // A line stored behind the screen, with its number, register number and

@@ -108,22 +108,28 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
 
   const auto line = SelectLineAt<EmployeeRow>(db_, 3);
   ASSERT_TRUE(line);
-  const EmployeeRow* row = &line->row;
-  EXPECT_EQ(row->row_num, 6);
-  EXPECT_EQ(row->surname, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
-  EXPECT_EQ(row->name, u"ΓΙΩΡΓΟΣ"_s);
-  EXPECT_EQ(row->full_day, u"1"_s);  // "ναι" in small letters
-  EXPECT_EQ(row->all_days, u"0"_s);
-  EXPECT_EQ(row->birth_date, u"05/03/1970"_s);
-  EXPECT_EQ(row->sal_from, u"01/02/2002"_s);
-  EXPECT_EQ(row->sal_to, u"28/02/2002"_s);
-  EXPECT_EQ(row->special_insur_code, u""_s);
-  EXPECT_EQ(row->salary, u"1000,50"_s);
-  EXPECT_EQ(row->payed_contr, u"440,5"_s);
+  EXPECT_EQ(line->row_num, 6);
+  EXPECT_EQ(line->row.surname, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
+  EXPECT_EQ(line->row.full_day, u"1"_s);  // "ναι" in small letters
+  EXPECT_EQ(line->row.all_days, u"0"_s);
+  EXPECT_EQ(line->row.sal_to, u"28/02/2002"_s);
+  EXPECT_EQ(line->row.special_insur_code, u""_s);
 
   form_->CancelCmd_Click();  // shows the line inserted last
   EXPECT_EQ(Mode(), u"browse"_s);
   EXPECT_EQ(form_->CurrentRowNum(), u"7"_s);
+  // Every field comes back as stored: names cleaned, flags as choices.
+  const std::map<QString, QString> stored_otherwise{{u"Text21"_s, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s},
+                                                    {u"Text22"_s, u"ΓΙΩΡΓΟΣ"_s},
+                                                    {u"Text23"_s, u"ΝΙΚΟΣ"_s},
+                                                    {u"Text24"_s, u"ΕΛΕΝΗ"_s},
+                                                    {u"Text27"_s, kYes},
+                                                    {u"Text34"_s, u"01/02/2002"_s}};
+  for (const auto& [name, typed] : ValidLine(u"123456789"_s, u" Καίρης-Παπαδάκης'; --"_s)) {
+    const auto other = stored_otherwise.find(name);
+    EXPECT_EQ(form_->Text(name), other == stored_otherwise.end() ? typed : other->second)
+        << name.toStdString();
+  }
   EXPECT_FALSE(dialogs_.busy);
 }
 
