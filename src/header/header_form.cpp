@@ -343,7 +343,7 @@ void HeaderForm::SaveData() {
 
 void HeaderForm::ShowSaveError(const StoreError& error) {
   const QString text = layout_.save_error_first_line.isEmpty()
-                           ? error.description
+                           ? ErrorDescription(error)
                            : ErrorMessage(layout_.save_error_first_line, error);
   dialogs_.Message(text, texts::kAppTitle);
 }

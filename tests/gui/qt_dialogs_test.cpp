@@ -13,6 +13,7 @@
 #include <optional>
 
 #include "gui/qt_dialogs.h"
+#include "shell/errors.h"
 #include "shell/texts.h"
 
 namespace veroxia::testing {
@@ -42,6 +43,23 @@ INSTANTIATE_TEST_SUITE_P(
                       TextCase{texts::kStoreCritical + u'\r' + texts::kErrorCode + "26",
                                texts::kStoreCritical + u'\n' + texts::kErrorCode + "26",
                                "T\t" + texts::kStoreCritical + "\\n" + texts::kErrorCode + "26"}));
+
+// The store errors a user can meet are told in Greek, any other in SQLite's
+// words; the number stays.
+TEST(StoreErrorTexts, TheErrorsAUserMeetsAreToldInGreek) {
+  const std::pair<int, const QString*> cases[] = {
+      {26, &texts::kStoreNotADatabase}, {8, &texts::kStoreReadOnly}, {5, &texts::kStoreInUse},
+      {6, &texts::kStoreInUse},         {13, &texts::kStoreDiskFull}, {11, &texts::kStoreDamaged},
+      {14, &texts::kStoreCannotOpen},   {10, &texts::kStoreIoError},  {266, &texts::kStoreIoError},
+      {19, nullptr},                    {1, nullptr}};
+  const QString sqlite = QStringLiteral("what SQLite says");
+  for (const auto& [code, greek] : cases) {
+    EXPECT_EQ(ErrorMessage(QStringLiteral("L"), StoreError{code, sqlite}),
+              "L\r\n" + texts::kErrorCode + QString::number(code) + "\r\n" +
+                  texts::kErrorDescription + (greek != nullptr ? *greek : sqlite))
+        << code;
+  }
+}
 
 TEST(QtDialogsTest, TheHourglassIsOnOrOffNeverStacked) {
   ASSERT_EQ(QGuiApplication::overrideCursor(), nullptr);
