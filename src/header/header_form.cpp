@@ -258,7 +258,8 @@ void HeaderForm::GotFocus(const QString& name) {
 void HeaderForm::UpDateCmd_Click() {
   ShowEditButtons();
   EnableFields(true);
-  SetFocus(u"Text2"_s);
+  // The focus arrives as it would by a click or the tab key: selected.
+  GotFocus(u"Text2"_s);
 }
 
 void HeaderForm::CancelCmd_Click() {
