@@ -7,6 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "gui/fields.h"
+
 namespace veroxia {
 
 namespace {
@@ -17,7 +19,13 @@ constexpr int kNoLimit = 32767;
 }  // namespace
 
 FormBinder::FormBinder(Form& form, QWidget& root, QStringList focus_order)
-    : QObject(&root), form_(form), root_(root), focus_order_(std::move(focus_order)) {}
+    : QObject(&root),
+      form_(form),
+      root_(root),
+      focus_order_(std::move(focus_order)),
+      before_box_([this] {
+        if (root_.isVisible() && !mirroring_) Mirror();
+      }) {}
 
 void FormBinder::Bind(const QString& name, QWidget* widget) {
   form_.At(name);  // the form must know the control
@@ -28,6 +36,9 @@ void FormBinder::Bind(const QString& name, QWidget* widget) {
   widget->installEventFilter(this);
   if (auto* label = qobject_cast<QLabel*>(widget)) label->setTextFormat(Qt::PlainText);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
+    const int max_length = form_.At(name).max_length;
+    const bool sized = edit->minimumWidth() > 0 || edit->maximumWidth() < QWIDGETSIZE_MAX;
+    if (max_length > 0 && !sized) FitToLength(*edit, max_length);
     // A masked box hands over its text as shown, blanks of the mask included.
     connect(edit, &QLineEdit::textEdited, this, [this, name, edit](const QString& text) {
       form_.Type(name, edit->inputMask().isEmpty() ? text : edit->displayText());
@@ -98,7 +109,12 @@ void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
     const int max_length = control.max_length > 0 ? control.max_length : kNoLimit;
     if (edit->maxLength() != max_length) edit->setMaxLength(max_length);
     const QString shown = edit->inputMask().isEmpty() ? edit->text() : edit->displayText();
-    if (shown != control.text) edit->setText(control.text);
+    // A new text, or a box being locked (the user cannot scroll it any more),
+    // is shown from its first character.
+    if (shown != control.text || (edit->isEnabled() && !control.enabled)) {
+      if (shown != control.text) edit->setText(control.text);
+      edit->setCursorPosition(0);
+    }
   } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
     if (combo->currentText() != control.text) {
       if (combo->isEditable()) {
@@ -137,8 +153,12 @@ void FormBinder::MirrorFocus() {
   if (widget == nullptr || !widget->isEnabled() || !widget->isVisibleTo(&root_)) return;
   widget->setFocus(Qt::OtherFocusReason);
   if (auto* edit = qobject_cast<QLineEdit*>(widget)) {
-    if (const auto selection = form_.SelectionOf(name)) {
-      edit->setSelection(selection->start, selection->length);
+    if (const auto selection = form_.SelectionOf(name); selection && selection->length > 0) {
+      // Selected from its end back to its start: the cursor, and with it
+      // the part of a long text in view, stays at the start.
+      edit->setSelection(selection->start + selection->length, -selection->length);
+    } else if (selection) {
+      edit->setCursorPosition(selection->start);
     } else {
       edit->deselect();
     }

@@ -4,7 +4,14 @@
 // copied into the form as it is typed, and focus moves are reported; after
 // every event routine the widgets show the form's state again: text, shown,
 // enabled, maximum length, whether the tab key stops on it, the tab order,
-// the focus and the selection.
+// the focus and the selection. They show it also before any message box or
+// question opens while the window is shown (see BeforeBoxOpens), so a box
+// never stands over a state the logic has left.
+//
+// A text box the view has not sized takes its width from the control's
+// maximum length (FitToLength). A text set by the logic is shown from its
+// first character; a selection keeps the cursor at its start, so that the
+// beginning of a long text is what the user sees.
 
 #include <QAbstractButton>
 #include <QObject>
@@ -13,6 +20,7 @@
 #include <functional>
 #include <map>
 
+#include "gui/qt_dialogs.h"
 #include "shell/form.h"
 
 class QWidget;
@@ -75,6 +83,7 @@ class FormBinder : public QObject {
   std::function<void(const QString&)> on_focus_;
   std::function<void()> on_mirror_;
   std::function<void(const QString&)> on_edit_;
+  BeforeBoxOpens before_box_;
 };
 
 }  // namespace veroxia

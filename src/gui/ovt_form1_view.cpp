@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "gui/fields.h"
 #include "gui/form_binder.h"
@@ -25,6 +26,10 @@ using namespace Qt::StringLiterals;
 constexpr double kFontPoints = 8.0;
 constexpr int kMarginTwips = 90;
 constexpr int kDateBoxChars = 10;
+// Room between one type option with its caption and the next.
+constexpr int kOptionGapTwips = 360;
+// Room on either side of the "/" between a month and a year.
+constexpr int kCloseTwips = 30;
 const QString kDateMask = u"99/99/9999;_"_s;
 
 bool IsDateBox(const QString& name) { return name == u"FlDateTxt" || name == u"StopDateTxt"; }
@@ -97,17 +102,32 @@ QWidget* OvtForm1View::Field(const QString& name, QWidget* parent) {
   if (IsDateBox(name)) {
     edit->setInputMask(kDateMask);
     FitToCharacters(*edit, kDateBoxChars);
-  } else if (form_.At(name).max_length <= 4) {
-    FitToCharacters(*edit, form_.At(name).max_length);
   }
-  binder_->Bind(name, edit);
+  binder_->Bind(name, edit);  // sized from its maximum length unless sized here
   return edit;
 }
 
-void OvtForm1View::Pair(QGridLayout& grid, QWidget* parent, const QString& label,
-                        const QString& field, int row, int column, int span) {
-  grid.addWidget(Caption(label, parent), row, column);
-  grid.addWidget(Field(field, parent), row, column + 1, 1, span);
+void OvtForm1View::Line(QGridLayout& grid, QWidget* parent, int row,
+                        std::initializer_list<std::pair<const char*, const char*>> pairs) {
+  auto* boxes = new QHBoxLayout;
+  boxes->setSpacing(grid.horizontalSpacing());
+  bool first = true;
+  for (const auto& [label, field] : pairs) {
+    QLabel* caption = Caption(QString::fromLatin1(label), parent);
+    if (first) {
+      grid.addWidget(caption, row, 0);
+    } else {
+      boxes->addSpacing(grid.horizontalSpacing());
+      boxes->addWidget(caption);
+    }
+    first = false;
+    QWidget* box = Field(QString::fromLatin1(field), parent);
+    // A box that can grow takes the room before the empty end of the line.
+    const bool grows = box->sizePolicy().horizontalPolicy() == QSizePolicy::Expanding;
+    boxes->addWidget(box, grows ? 1 : 0);
+  }
+  boxes->addStretch(0);
+  grid.addLayout(boxes, row, 1);
 }
 
 QWidget* OvtForm1View::BuildTop() {
@@ -133,6 +153,8 @@ QWidget* OvtForm1View::BuildTop() {
   return top;
 }
 
+// Every line of fields starts with a caption in the caption column; each box
+// stands beside its own caption, a second pair follows on the same line.
 QWidget* OvtForm1View::BuildFrame() {
   auto* frame = binder_->Add<QFrame>(u"Frame1"_s, this);
   frame->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
@@ -143,53 +165,56 @@ QWidget* OvtForm1View::BuildFrame() {
   column->addLayout(grid);
   int row = 0;
 
-  // The type row: heading, code caption, three options with their captions.
-  grid->addWidget(Caption(u"TypeHeadingLbl"_s, frame), row, 0);
+  // The type line, across the caption column for its room: heading, code
+  // caption, then each option with its caption right after it, the three
+  // apart.
   auto* types = new QHBoxLayout;
+  types->setSpacing(0);
+  types->addWidget(Caption(u"TypeHeadingLbl"_s, frame));
+  types->addSpacing(TwipsX(*this, kOptionGapTwips));
   types->addWidget(Caption(u"TypeCodeLbl"_s, frame));
   for (int i = 0; i < 3; ++i) {
     auto* option = binder_->Add<QRadioButton>(u"Option1_"_s + QString::number(i), frame);
     option->setAutoExclusive(true);
-    types->addWidget(option);
-    types->addWidget(Caption(u"Option1Lbl_"_s + QString::number(i), frame));
+    types->addSpacing(TwipsX(*this, kOptionGapTwips));
+    types->addLayout(
+        CaptionedOption(*option, *Caption(u"Option1Lbl_"_s + QString::number(i), frame)));
   }
   types->addStretch(1);
-  grid->addLayout(types, row++, 1, 1, 3);
+  grid->addLayout(types, row++, 0, 1, 2);
 
-  grid->addWidget(Caption(u"BranchHeadingLbl"_s, frame), row++, 0, 1, 4);
-  Pair(*grid, frame, u"Text2Lbl"_s, u"Text2"_s, row, 0);
-  Pair(*grid, frame, u"Text3Lbl"_s, u"Text3"_s, row++, 2);
-  Pair(*grid, frame, u"Text4Lbl"_s, u"Text4"_s, row++, 0, 3);
-  Pair(*grid, frame, u"FirstNmLbl"_s, u"FirstNmTxt"_s, row, 0);
-  Pair(*grid, frame, u"FatherNmLbl"_s, u"FatherNmTxt"_s, row++, 2);
-  Pair(*grid, frame, u"Text5Lbl"_s, u"Text5"_s, row, 0);
-  Pair(*grid, frame, u"Text6Lbl"_s, u"Text6"_s, row++, 2);
-  grid->addWidget(Caption(u"AddressHeadingLbl"_s, frame), row++, 0, 1, 4);
-  Pair(*grid, frame, u"Text7Lbl"_s, u"Text7"_s, row, 0);
-  Pair(*grid, frame, u"Text8Lbl"_s, u"Text8"_s, row++, 2);
-  Pair(*grid, frame, u"Text9Lbl"_s, u"Text9"_s, row, 0);
-  Pair(*grid, frame, u"Text10Lbl"_s, u"Text10"_s, row++, 2);
+  grid->addWidget(Caption(u"BranchHeadingLbl"_s, frame), row++, 0, 1, 2);
+  Line(*grid, frame, row++, {{"Text2Lbl", "Text2"}, {"Text3Lbl", "Text3"}});
+  Line(*grid, frame, row++, {{"Text4Lbl", "Text4"}});
+  Line(*grid, frame, row++, {{"FirstNmLbl", "FirstNmTxt"}});
+  Line(*grid, frame, row++, {{"FatherNmLbl", "FatherNmTxt"}});
+  Line(*grid, frame, row++, {{"Text5Lbl", "Text5"}, {"Text6Lbl", "Text6"}});
+  grid->addWidget(Caption(u"AddressHeadingLbl"_s, frame), row++, 0, 1, 2);
+  Line(*grid, frame, row++, {{"Text7Lbl", "Text7"}, {"Text8Lbl", "Text8"}});
+  Line(*grid, frame, row++, {{"Text9Lbl", "Text9"}, {"Text10Lbl", "Text10"}});
 
-  // The period: month, "/", year, for the start and for the end.
-  const auto period = [&](const QString& label, const QString& month, const QString& separator,
-                          const QString& year, int at) {
-    grid->addWidget(Caption(label, frame), row, at);
-    auto* boxes = new QHBoxLayout;
-    boxes->addWidget(Field(month, frame));
-    boxes->addWidget(Caption(separator, frame));
-    boxes->addWidget(Field(year, frame));
-    boxes->addStretch(1);
-    grid->addLayout(boxes, row, at + 1);
+  // The period, on a line of its own for its long captions: month, "/",
+  // year, for the start and for the end.
+  auto* period = new QHBoxLayout;
+  period->setSpacing(0);
+  const int close = TwipsX(*this, kCloseTwips);
+  const auto month_year = [&](const QString& label, const QString& month, const QString& separator,
+                              const QString& year) {
+    period->addWidget(Caption(label, frame));
+    period->addSpacing(grid->horizontalSpacing());
+    period->addWidget(Field(month, frame));
+    period->addSpacing(close);
+    period->addWidget(Caption(separator, frame));
+    period->addSpacing(close);
+    period->addWidget(Field(year, frame));
   };
-  period(u"Text11Lbl"_s, u"Text11_1"_s, u"Text11SepLbl"_s, u"Text11_2"_s, 0);
-  period(u"Text12Lbl"_s, u"Text12_1"_s, u"Text12SepLbl"_s, u"Text12_2"_s, 2);
-  ++row;
-  grid->addWidget(Caption(u"FlDateLbl"_s, frame), row, 0);
-  grid->addWidget(Field(u"FlDateTxt"_s, frame), row, 1, Qt::AlignLeft);
-  grid->addWidget(Caption(u"StopDateLbl"_s, frame), row, 2);
-  grid->addWidget(Field(u"StopDateTxt"_s, frame), row++, 3, Qt::AlignLeft);
+  month_year(u"Text11Lbl"_s, u"Text11_1"_s, u"Text11SepLbl"_s, u"Text11_2"_s);
+  period->addSpacing(2 * grid->horizontalSpacing());
+  month_year(u"Text12Lbl"_s, u"Text12_1"_s, u"Text12SepLbl"_s, u"Text12_2"_s);
+  period->addStretch(1);
+  grid->addLayout(period, row++, 0, 1, 2);
+  Line(*grid, frame, row++, {{"FlDateLbl", "FlDateTxt"}, {"StopDateLbl", "StopDateTxt"}});
   grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(3, 1);
 
   column->addWidget(BuildTotals(frame));
   return frame;
@@ -199,22 +224,31 @@ QWidget* OvtForm1View::BuildTotals(QWidget* parent) {
   auto* totals = new QWidget(parent);
   auto* grid = new QGridLayout(totals);
   grid->setContentsMargins(0, TwipsY(*this, 60), 0, 0);
-  grid->addWidget(Caption(u"Text13Lbl"_s, totals), 0, 0);
-  for (int month = 1; month <= 3; ++month) {
-    grid->addWidget(Field(u"Text13_"_s + QString::number(month), totals), 0, month);
+  // The month labels, then days, earnings and contributions by month, each
+  // row ending in its total.
+  const QStringList cells[] = {
+      {u"Text13_1"_s, u"Text13_2"_s, u"Text13_3"_s},
+      {u"Text14_1"_s, u"Text14_2"_s, u"Text14_3"_s, u"Text17_1"_s},
+      {u"Text15_1"_s, u"Text15_2"_s, u"Text15_3"_s, u"Text17_2"_s},
+      {u"Text16_1"_s, u"Text16_2"_s, u"Text16_3"_s, u"Text17_3"_s},
+  };
+  const QString captions[] = {u"Text13Lbl"_s, u"Text14Lbl"_s, u"Text15Lbl"_s, u"Text16Lbl"_s};
+  // The columns of the table are as wide as its longest box.
+  int widest = 0;
+  for (const QStringList& row : cells) {
+    for (const QString& name : row) widest = std::max(widest, form_.At(name).max_length);
+  }
+  for (int r = 0; r < 4; ++r) {
+    grid->addWidget(Caption(captions[r], totals), r, 0);
+    for (int c = 0; c < cells[r].size(); ++c) {
+      auto* edit = new QLineEdit(totals);  // owned by totals
+      FitToCharacters(*edit, widest);
+      binder_->Bind(cells[r][c], edit);
+      grid->addWidget(edit, r, c + 1);
+    }
   }
   grid->addWidget(Caption(u"Text17Lbl"_s, totals), 0, 4, Qt::AlignCenter);
-  const char* rows[] = {"14", "15", "16"};
-  for (int r = 0; r < 3; ++r) {
-    const QString number = QString::fromLatin1(rows[r]);
-    grid->addWidget(Caption(u"Text"_s + number + u"Lbl"_s, totals), r + 1, 0);
-    for (int month = 1; month <= 3; ++month) {
-      grid->addWidget(Field(u"Text"_s + number + u'_' + QString::number(month), totals), r + 1,
-                      month);
-    }
-    grid->addWidget(Field(u"Text17_"_s + QString::number(r + 1), totals), r + 1, 4);
-  }
-  for (int c = 1; c <= 4; ++c) grid->setColumnStretch(c, 1);
+  grid->setColumnStretch(5, 1);
   return totals;
 }
 

@@ -3,6 +3,8 @@
 // is a widget named after it; the logic decides, the window shows.
 
 #include <QWidget>
+#include <initializer_list>
+#include <utility>
 
 #include "header/ovt_form1.h"
 
@@ -27,9 +29,10 @@ class OvtForm1View : public QWidget {
   QWidget* BuildFrame();
   QWidget* BuildTotals(QWidget* parent);
   QLayout* BuildButtons();
-  // A caption and its field in the grid, at a row and a pair of columns.
-  void Pair(QGridLayout& grid, QWidget* parent, const QString& label, const QString& field, int row,
-            int column, int span = 1);
+  // A line of fields at a row of the grid: the first caption in the caption
+  // column, each box beside its caption, further pairs after it.
+  void Line(QGridLayout& grid, QWidget* parent, int row,
+            std::initializer_list<std::pair<const char*, const char*>> pairs);
   QWidget* Field(const QString& name, QWidget* parent);
   QLabel* Caption(const QString& name, QWidget* parent);
 

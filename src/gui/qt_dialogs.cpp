@@ -2,9 +2,14 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QGridLayout>
 #include <QIcon>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
 #include <cstdio>
+#include <vector>
 
 #include "gui/search_view.h"
 #include "lines/texts.h"
@@ -14,6 +19,12 @@
 namespace veroxia {
 
 namespace {
+
+// The hooks alive, in the order they were made.
+std::vector<BeforeBoxOpens*>& Hooks() {
+  static std::vector<BeforeBoxOpens*> hooks;
+  return hooks;
+}
 
 // While a box is open the user answers it with the normal pointer, even in
 // the middle of a busy operation.
@@ -38,13 +49,79 @@ QWidget* Owner() {
   return active != nullptr && active->isVisible() ? active : nullptr;
 }
 
-// Plain text, and buttons that carry their caption only.
+// Pixels the margins, the icon and the indent of a box take beside its text.
+constexpr int kBesideText = 120;
+
+// The widest a box may grow before QMessageBox breaks lines inside words.
+int WidestBox(const QMessageBox& box) {
+  const QScreen* screen = box.screen() != nullptr ? box.screen() : QGuiApplication::primaryScreen();
+  const int screen_width = screen != nullptr ? screen->availableGeometry().width() : 800;
+  return screen_width <= 1024 ? screen_width : std::min(screen_width - 480, 1000);
+}
+
+// QMessageBox wraps any text wider than half the screen (500 pixels at most),
+// so a line of a message would break in two. The column of the text is made
+// as wide as the longest line, and the whole box as wide as its title needs
+// beside the buttons of a title bar; both within what the screen allows.
+void WidenForLinesAndTitle(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (grid == nullptr || label == nullptr) return;
+  const int index = grid->indexOf(label);
+  if (index < 0) return;
+  int row = 0;
+  int column = 0;
+  int row_span = 0;
+  int column_span = 0;
+  grid->getItemPosition(index, &row, &column, &row_span, &column_span);
+
+  const QFontMetrics metrics(label->font());
+  int longest = 0;
+  for (const QString& line : box.text().split(u'\n')) {
+    longest = std::max(longest, metrics.horizontalAdvance(line));
+  }
+  // A character to spare, so that rounding never pushes a word down.
+  const int text_width = longest + metrics.averageCharWidth();
+  // Title bars write their title in a bold face, beside an icon and buttons.
+  QFont title_font = box.font();
+  title_font.setBold(true);
+  const int title_width =
+      QFontMetrics(title_font).horizontalAdvance(box.windowTitle()) + 8 * metrics.height();
+
+  // The box's margins, icon and indent leave the text less than the widest box.
+  const int widest = WidestBox(box) - kBesideText;
+  const int last_row = grid->rowCount();
+  grid->addItem(
+      new QSpacerItem(std::min(text_width, widest), 0, QSizePolicy::Fixed, QSizePolicy::Minimum),
+      last_row, column);  // owned by the grid
+  grid->addItem(
+      new QSpacerItem(std::min(title_width, widest), 0, QSizePolicy::Fixed, QSizePolicy::Minimum),
+      last_row + 1, 0, 1, grid->columnCount());  // owned by the grid
+}
+
+// Plain text, buttons that carry their caption only, and room for every line
+// and the title.
 void Prepare(QMessageBox& box) {
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+  WidenForLinesAndTitle(box);
 }
 
 }  // namespace
+
+BeforeBoxOpens::BeforeBoxOpens(std::function<void()> routine) : routine_(std::move(routine)) {
+  Hooks().push_back(this);
+}
+
+BeforeBoxOpens::~BeforeBoxOpens() { std::erase(Hooks(), this); }
+
+void BeforeBoxOpens::RunAll() {
+  // A hook may end another (a window closing): each runs only while alive.
+  const std::vector<BeforeBoxOpens*> hooks = Hooks();
+  for (BeforeBoxOpens* hook : hooks) {
+    if (std::find(Hooks().begin(), Hooks().end(), hook) != Hooks().end()) hook->routine_();
+  }
+}
 
 QString DisplayText(const QString& text) {
   QString shown = text;
@@ -71,6 +148,7 @@ void QtDialogs::Print(const QString& text, const QString& title) const {
 }
 
 void QtDialogs::Message(const QString& text, const QString& title) {
+  BeforeBoxOpens::RunAll();
   if (unattended_) {
     Print(text, title);
     return;
@@ -82,6 +160,7 @@ void QtDialogs::Message(const QString& text, const QString& title) {
 }
 
 bool QtDialogs::Ask(const QString& text, const QString& title, AskStyle style) {
+  BeforeBoxOpens::RunAll();
   if (unattended_) {
     Print(text, title);
     return false;
@@ -90,9 +169,9 @@ bool QtDialogs::Ask(const QString& text, const QString& title, AskStyle style) {
   const bool question = style == AskStyle::Question;
   QMessageBox box(question ? QMessageBox::Question : QMessageBox::NoIcon, title, DisplayText(text),
                   QMessageBox::Yes | QMessageBox::No, Owner());
-  Prepare(box);
   box.button(QMessageBox::Yes)->setText(texts::kYes);
   box.button(QMessageBox::No)->setText(texts::kNo);
+  Prepare(box);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;

@@ -5,8 +5,13 @@
 // program), no box opens: every message is written to standard output as one
 // line "title<TAB>text", line breaks written as the two characters \n, and
 // answered with OK, or No for a question.
+//
+// Before any box or question opens (unattended runs included), every living
+// BeforeBoxOpens hook runs: the windows behind the box show the state the
+// logic has reached by then, not the one of the last finished event.
 
 #include <QString>
+#include <functional>
 
 #include "shell/ports.h"
 
@@ -16,6 +21,22 @@ namespace veroxia {
 QString DisplayText(const QString& text);
 // The one line written for a message in unattended runs (without the newline).
 QString UnattendedLine(const QString& text, const QString& title);
+
+// While it lives, `routine` runs before every message box or question opens,
+// after the hooks made before it. FormBinder makes one for each screen.
+class BeforeBoxOpens {
+ public:
+  explicit BeforeBoxOpens(std::function<void()> routine);
+  ~BeforeBoxOpens();
+  BeforeBoxOpens(const BeforeBoxOpens&) = delete;
+  BeforeBoxOpens& operator=(const BeforeBoxOpens&) = delete;
+
+  // Runs every living hook once.
+  static void RunAll();
+
+ private:
+  std::function<void()> routine_;
+};
 
 class QtDialogs : public Dialogs {
  public:

@@ -76,6 +76,7 @@ StartView::StartView(StartForm& form)
   binder_->OnClick(QStringLiteral("Command3"), [this] { form_.Command3_Click(); });
   binder_->OnClick(QStringLiteral("OkCmd"), [this] { form_.OkCmd_Click(); });
   binder_->OnClick(QStringLiteral("CancelCmd"), [this] { form_.CancelCmd_Click(); });
+  binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
   binder_->Mirror();
 
   FixWindow(*this, StartForm::kLeftTwips, StartForm::kTopTwips, StartForm::kWidthTwips,

@@ -25,7 +25,12 @@ QSize WrapButton::Padding() const {
   QStyleOptionButton option;
   initStyleOption(&option);
   const QSize probe(1000, 1000);
-  return style()->sizeFromContents(QStyle::CT_PushButton, &option, probe, this) - probe;
+  const QSize style_margins =
+      style()->sizeFromContents(QStyle::CT_PushButton, &option, probe, this) - probe;
+  // Some styles draw their bevel inside those margins: a character more on
+  // each side, and a little above and below, keep the caption off it.
+  const QFontMetrics metrics = fontMetrics();
+  return style_margins + QSize(2 * metrics.averageCharWidth(), metrics.height() / 4);
 }
 
 QSize WrapButton::CaptionSize(int width) const {
@@ -47,12 +52,9 @@ QSize WrapButton::sizeHint() const {
 }
 
 QSize WrapButton::minimumSizeHint() const {
-  // As narrow as the longest word allows.
-  int longest = 0;
-  for (const QString& word : text().split(u' ', Qt::SkipEmptyParts)) {
-    longest = std::max(longest, fontMetrics().horizontalAdvance(word));
-  }
-  const int width = longest + Padding().width();
+  // As narrow as the longest word allows, measured as the caption is laid
+  // out: wrapped into the narrowest room, each word stands on a line.
+  const int width = CaptionSize(1).width() + Padding().width();
   return {width, heightForWidth(width)};
 }
 

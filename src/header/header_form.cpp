@@ -244,7 +244,8 @@ void HeaderForm::GotFocus(const QString& name) {
 void HeaderForm::UpDateCmd_Click() {
   ShowEditButtons();
   EnableFields(true);
-  SetFocus(u"Text2"_s);
+  // The focus arrives as it would by a click or the tab key: selected.
+  GotFocus(u"Text2"_s);
 }
 
 void HeaderForm::CancelCmd_Click() {
@@ -329,7 +330,7 @@ void HeaderForm::SaveData() {
 
 void HeaderForm::ShowSaveError(const StoreError& error) {
   const QString text = layout_.save_error_first_line.isEmpty()
-                           ? error.description
+                           ? ErrorDescription(error)
                            : ErrorMessage(layout_.save_error_first_line, error);
   dialogs_.Message(text, texts::kAppTitle);
 }

@@ -2,19 +2,14 @@
 
 #include <QDate>
 
+#include "rules/check_texts.h"
 #include "rules/numbers.h"
 
 namespace veroxia {
 
-using namespace Qt::StringLiterals;
+using namespace check_texts;
 
 namespace {
-
-QString FieldStart(const QString& field_name) { return u"ΠΡΟΣΟΧΗ!! To πεδίο '"_s + field_name; }
-QString MustBeFilled(const QString& field_name) { return FieldStart(field_name) + u"' πρέπει να συμπληρωθεί."_s; }
-QString IsNumericDouble(const QString& field_name) {
-  return FieldStart(field_name) + u"'  είναι αριθμητικό."_s;
-}
 
 bool HasExponent(const QString& t) {
   return t.contains(u'E', Qt::CaseInsensitive) || t.contains(u'D', Qt::CaseInsensitive);
@@ -62,31 +57,25 @@ bool IsDate(const QString& t) {
 Fault CheckDecimal(const QString& text, const QString& fieldName, int maxIntDigits) {
   const QString t = text.trimmed();
   if (t.isEmpty()) return MustBeFilled(fieldName);
-  if (!IsNumeric(t) || HasExponent(t)) return IsNumericDouble(fieldName);
-  if (IsOperator(t.back()) || IsOperator(t.front())) {
-    return FieldStart(fieldName) + u"' πρέπει να είναι αριθμητικό."_s;
-  }
-  if (t.contains(u'.')) return u"ΠΡΟΣΟΧΗ!! Τα δεκαδικό μέρος χωρίζεται με ',' και δεν επιτρέπεται να βάζετε τελείες στον αριθμό."_s;
+  if (!IsNumeric(t) || HasExponent(t)) return NumericTwoBlanks(fieldName);
+  if (IsOperator(t.back()) || IsOperator(t.front())) return MustBeNumeric(fieldName);
+  if (t.contains(u'.')) return kNoDots;
   const qsizetype p = t.indexOf(u',') + 1;
   const qsizetype n = t.size();
-  const QString too_long = u"ΠΡΟΣΟΧΗ!! Tο μήκος του ακέραιου μέρους του αριθμού δεν πρέπει να είναι μεγαλύτερο απο "_s + QString::number(maxIntDigits) + u" ψηφία."_s;
-  if (p > 0 && n - p >= 3) return u"ΠΡΟΣΟΧΗ!! Δεν επιτρέπεται να βάζετε περισσότερα απο δύο δεκαδικά ψηφία."_s;
-  if (p > 0 && p > maxIntDigits + 1) return too_long;
-  if (p == 0 && n > maxIntDigits) return too_long;
+  if (p > 0 && n - p >= 3) return kTwoDecimals;
+  if (p > 0 && p > maxIntDigits + 1) return IntegerPartTooLong(maxIntDigits);
+  if (p == 0 && n > maxIntDigits) return IntegerPartTooLong(maxIntDigits);
   return std::nullopt;
 }
 
 Fault CheckInteger(const QString& text, const QString& fieldName, int digits, bool exact) {
   const QString t = text.trimmed();
   if (t.isEmpty()) return MustBeFilled(fieldName);
-  if (!IsNumeric(t)) return FieldStart(fieldName) + u"' είναι αριθμητικό."_s;
-  if (HasExponent(t)) return IsNumericDouble(fieldName);
-  const QString whole = FieldStart(fieldName) + u"' πρέπει να είναι ακέραιος αριθμός."_s;
-  if (IsOperator(t.back()) || IsOperator(t.front())) return whole;
-  if (t.contains(u'.') || t.contains(u',')) return whole;
-  if (exact && t.size() != digits) {
-    return FieldStart(fieldName) + u"' πρέπει να είναι έχει "_s + QString::number(digits) + u" ψηφία."_s;
-  }
+  if (!IsNumeric(t)) return NumericOneBlank(fieldName);
+  if (HasExponent(t)) return NumericTwoBlanks(fieldName);
+  if (IsOperator(t.back()) || IsOperator(t.front())) return MustBeWhole(fieldName);
+  if (t.contains(u'.') || t.contains(u',')) return MustBeWhole(fieldName);
+  if (exact && t.size() != digits) return MustHaveDigits(fieldName, digits);
   return std::nullopt;
 }
 
@@ -94,16 +83,14 @@ Fault CheckDate(const QString& text, const QString& fieldName) {
   const QString t = text.trimmed();
   const int day = TwoDigits(t, 0);
   const int month = TwoDigits(t, 3);
-  if (!IsDate(t) || day < 0 || month < 0 || month > 12 || day > 31) {
-    return u"ΛΑΘΟΣ!! H ημ/νία του πεδίου '"_s + fieldName + u"'  δεν είναι σωστή."_s;
-  }
+  if (!IsDate(t) || day < 0 || month < 0 || month > 12 || day > 31) return DateWrong(fieldName);
   return std::nullopt;
 }
 
 Fault CheckNoDigits(const QString& text, const QString& fieldName) {
   const QString t = text.trimmed();
   for (QChar c : t) {
-    if (c >= u'0' && c <= u'9') return u"Το πεδίο '"_s + fieldName + u"' περιέχει μη αποδεκτούς αριθμητικούς χαρακτήρες."_s;
+    if (c >= u'0' && c <= u'9') return HasDigits(fieldName);
   }
   return std::nullopt;
 }

@@ -10,8 +10,11 @@ namespace veroxia {
 QString FieldText(const std::optional<QString>& value);
 // Null gives "0", anything else the text untrimmed.
 QString FieldNumber(const std::optional<QString>& value);
-// Removes the Greek accents (tonos) of the trimmed text; leaves the
-// diaeresis letters and the case of everything else alone.
+// Removes the Greek accents (tonos) of the trimmed text, an accented capital
+// becoming the plain small letter; "ΐ" and "ΰ" become "ϊ" and "ϋ", and the
+// polytonic letters lose their accents and breathings, so that the upper
+// case of the result has no combining marks. Leaves the diaeresis letters
+// and everything else alone.
 QString GreekUpper(const QString& text);
 // True when path names an ordinary, non-hidden file; false on any error.
 bool FileExists(const QString& path);

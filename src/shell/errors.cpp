@@ -1,13 +1,36 @@
 #include "shell/errors.h"
 
+#include <sqlcipher/sqlite3.h>
+
 #include "shell/texts.h"
 
 namespace veroxia {
 
+QString ErrorDescription(const StoreError& error) {
+  switch (error.code & 0xff) {  // an extended code tells its primary code in its low byte
+    case SQLITE_NOTADB:
+      return texts::kStoreNotADatabase;
+    case SQLITE_READONLY:
+      return texts::kStoreReadOnly;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return texts::kStoreInUse;
+    case SQLITE_FULL:
+      return texts::kStoreDiskFull;
+    case SQLITE_CORRUPT:
+      return texts::kStoreDamaged;
+    case SQLITE_CANTOPEN:
+      return texts::kStoreCannotOpen;
+    case SQLITE_IOERR:
+      return texts::kStoreIoError;
+    default:
+      return error.description;
+  }
+}
+
 QString ErrorMessage(const QString& first_line, const StoreError& error) {
   return first_line + QStringLiteral("\r\n") + texts::kErrorCode + QString::number(error.code) +
-         QStringLiteral("\r\n") +
-         texts::kErrorDescription + error.description;
+         QStringLiteral("\r\n") + texts::kErrorDescription + ErrorDescription(error);
 }
 
 }  // namespace veroxia

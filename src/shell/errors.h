@@ -8,7 +8,13 @@
 
 namespace veroxia {
 
-// first_line, CR LF, "Κωδικός λάθους: " number, CR LF, "Περιγραφή λάθους: " text.
+// What the error means to the user: our words for the errors a user can meet
+// (wrong password or not a store, read-only, in use, disk full, damaged,
+// cannot be opened, disk I/O), SQLite's own text for any other.
+QString ErrorDescription(const StoreError& error);
+
+// first_line, CR LF, "Κωδικός λάθους: " number, CR LF, "Περιγραφή λάθους: "
+// and the error's description.
 QString ErrorMessage(const QString& first_line, const StoreError& error);
 
 }  // namespace veroxia

@@ -105,8 +105,16 @@ void StartForm::EnterPeriodEntry() {
   const bool construction = ChosenKind() == Kind::Construction;
   SetTabStops(kCommonFields, !construction);
   SetTabStops(kConFields, construction);
-  SetFocus(construction ? QStringLiteral("ConMonth") : QStringLiteral("Month1"));
+  GotFocus(construction ? QStringLiteral("ConMonth") : QStringLiteral("Month1"));
   SetTabStops(kFrameButtons, true);
+}
+
+void StartForm::GotFocus(const QString& name) {
+  if (kCommonFields.contains(name) || kConFields.contains(name)) {
+    Select(name, static_cast<int>(Text(name).size()));
+  } else {
+    SetFocus(name);
+  }
 }
 
 void StartForm::LeavePeriodEntry() {

@@ -43,6 +43,10 @@ class StartForm : public Form {
   void StartCarryOverDeclaration();
   void OpenHeaderScreen();
 
+  // A control takes the focus: a period field has its whole content
+  // selected, so that typing replaces it.
+  void GotFocus(const QString& name);
+
   void ShowKindButtons(bool visible);
   void EnterPeriodEntry();
   void LeavePeriodEntry();

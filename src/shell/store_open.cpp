@@ -1,6 +1,7 @@
 #include "shell/store_open.h"
 
 #include "rules/texts.h"
+#include "shell/errors.h"
 #include "shell/texts.h"
 #include "store/schema.h"
 #include "store/store_file.h"
@@ -23,7 +24,7 @@ bool OpenStore(Vars& vars, Dialogs& dialogs) {
     vars.StoreConnection.reset();
     vars.StoreOpen = false;
     dialogs.Message(texts::kStoreCritical + u'\r' + texts::kErrorCode +
-                        QString::number(error.code) + u'\r' + error.description,
+                        QString::number(error.code) + u'\r' + ErrorDescription(error),
                     texts::kAppTitle);
     return false;
   }

@@ -58,6 +58,15 @@ inline const QString kNoIdLeft =
     u"ΠΡΟΣΟΧΗ!! Δεν μπορεί να δημιουργηθεί νέα δήλωση: έχει συμπληρωθεί ο μέγιστος αριθμός δηλώσεων (32767)."_s;
 inline const QString kRegistryFailed = u"Παρουσιάστηκε πρόβλημα στην αναζήτηση της δήλωσης."_s;
 inline const QString kNotAvailableYet = u"Η οθόνη αυτή δεν είναι ακόμη διαθέσιμη."_s;
+// What a store error means, for the errors a user can meet; any other error
+// is described in SQLite's own words.
+inline const QString kStoreNotADatabase = u"Λάθος κωδικός ή το αρχείο δεν είναι αρχείο δηλώσεων."_s;
+inline const QString kStoreReadOnly = u"Το αρχείο δηλώσεων επιτρέπει μόνο ανάγνωση."_s;
+inline const QString kStoreInUse = u"Το αρχείο δηλώσεων χρησιμοποιείται από άλλο πρόγραμμα."_s;
+inline const QString kStoreDiskFull = u"Δεν υπάρχει ελεύθερος χώρος στο δίσκο."_s;
+inline const QString kStoreDamaged = u"Το αρχείο δηλώσεων είναι κατεστραμμένο."_s;
+inline const QString kStoreCannotOpen = u"Το αρχείο δηλώσεων δεν μπορεί να ανοιχτεί."_s;
+inline const QString kStoreIoError = u"Παρουσιάστηκε πρόβλημα ανάγνωσης ή εγγραφής στο δίσκο."_s;
 // The captions of the Yes and No buttons of a question.
 inline const QString kYes = u"Ναι"_s;
 inline const QString kNo = u"Όχι"_s;

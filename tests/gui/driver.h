@@ -6,8 +6,14 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
 #include <QWidget>
+#include <functional>
+
+#include "gui/wrap_button.h"
 
 namespace veroxia::testing {
 
@@ -57,6 +63,69 @@ inline QString Focused(const QWidget& window) {
 inline void Tab(QWidget& window) {
   if (QWidget* widget = window.focusWidget()) Key(*widget, Qt::Key_Tab);
   QApplication::processEvents();
+}
+
+// Whether the box would show the whole text at once: with the cursor at its
+// end it is as far from the start as the text is long, nothing scrolled
+// away. The box is left as it was.
+inline bool ShowsWhole(QLineEdit& box, const QString& text) {
+  const QString before = box.text();
+  const int cursor = box.cursorPosition();
+  const int max_length = box.maxLength();
+  box.setMaxLength(static_cast<int>(text.size()));
+  const auto cursor_at = [&box](qsizetype position) {
+    box.setCursorPosition(static_cast<int>(position));
+    box.repaint();  // the box scrolls to its cursor when it paints
+    return box.inputMethodQuery(Qt::ImCursorRectangle).toRect().left();
+  };
+  box.setText(text);
+  const int start = cursor_at(0);
+  const bool whole = cursor_at(text.size()) - start == box.fontMetrics().horizontalAdvance(text);
+  box.setMaxLength(max_length);
+  box.setText(before);
+  box.setCursorPosition(cursor);
+  return whole;
+}
+
+// Runs `open`; the first message box that comes up is handed to `look` while
+// it is open, then answered with the Return key (its default button). False
+// when no box came up.
+inline bool AnswerNextBox(const std::function<void()>& open,
+                          const std::function<void(QMessageBox&)>& look) {
+  bool seen = false;
+  QTimer poll;
+  poll.setInterval(5);
+  QObject::connect(&poll, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr || !box->isVisible()) return;
+    poll.stop();
+    seen = true;
+    look(*box);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(box, &enter);
+  });
+  poll.start();
+  open();
+  return seen;
+}
+
+// Every shown widget lies inside its parent and shows all of itself: button
+// captions, label texts, the height of a text box.
+inline void ExpectNothingCut(const QWidget& window) {
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible()) continue;
+    const std::string name = widget->objectName().toStdString();
+    EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
+    if (const auto* button = qobject_cast<const WrapButton*>(widget)) {
+      EXPECT_TRUE(button->CaptionFits()) << name;
+    } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+      EXPECT_LE(label->minimumSizeHint().width(), label->width()) << name;
+      EXPECT_LE(label->minimumSizeHint().height(), label->height()) << name;
+    } else if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
+      EXPECT_GE(edit->width(), edit->minimumSizeHint().width()) << name;
+      EXPECT_GE(edit->height(), edit->sizeHint().height()) << name;
+    }
+  }
 }
 
 }  // namespace veroxia::testing

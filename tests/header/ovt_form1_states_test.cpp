@@ -221,6 +221,7 @@ TEST_F(OvtForm1States, CorrectionStartsInTheBranchCode) {
   OvtForm1& form = Open();
   form.UpDateCmd_Click();
   EXPECT_EQ(form.FocusedField(), u"Text2"_s);
+  EXPECT_EQ(form.SelectionOf(u"Text2"_s).value_or(Selection{}).length, 3);  // "051", selected
 }
 
 TEST_F(OvtForm1States, CancelBringsBackExactlyTheStoredValues) {

@@ -96,20 +96,20 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   StoreLine(2, u"100000000"_s, u"Α"_s);
   Open();  // shows line 2
   form_->NewCmd_Click();
-  TypeValidLine(u"123456789"_s, u" Καίρης-Παπαδάκης'; --"_s);
+  TypeValidLine(u"123456789"_s, u" Καΐρης-Παπαδάκης'; --"_s);
   form_->Type(u"Text34"_s, u"01/02/2002"_s);
   form_->OkCmd_Click();
   EXPECT_EQ(dialogs_.LastMessage(), kInsertDone);
   form_->OkCmd_Click();  // the same values once more
   EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_EQ(form_->Text(u"Text21"_s), u" Καίρης-Παπαδάκης'; --"_s);
+  EXPECT_EQ(form_->Text(u"Text21"_s), u" Καΐρης-Παπαδάκης'; --"_s);
   EXPECT_EQ(form_->CurrentRowNum(), u"7"_s);
   EXPECT_EQ(form_->CurrentInsuredId(), u"123456789"_s);
 
   const auto line = SelectLineAt<EmployeeRow>(db_, 3);
   ASSERT_TRUE(line);
   EXPECT_EQ(line->row_num, 6);
-  EXPECT_EQ(line->row.surname, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
+  EXPECT_EQ(line->row.surname, u"ΚΑΪΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
   EXPECT_EQ(line->row.full_day, u"1"_s);  // "ναι" in small letters
   EXPECT_EQ(line->row.all_days, u"0"_s);
   EXPECT_EQ(line->row.sal_to, u"28/02/2002"_s);
@@ -119,13 +119,13 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   EXPECT_EQ(Mode(), u"browse"_s);
   EXPECT_EQ(form_->CurrentRowNum(), u"7"_s);
   // Every field comes back as stored: names cleaned, flags as choices.
-  const std::map<QString, QString> stored_otherwise{{u"Text21"_s, u"ΚΑΙΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s},
+  const std::map<QString, QString> stored_otherwise{{u"Text21"_s, u"ΚΑΪΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s},
                                                     {u"Text22"_s, u"ΓΙΩΡΓΟΣ"_s},
                                                     {u"Text23"_s, u"ΝΙΚΟΣ"_s},
                                                     {u"Text24"_s, u"ΕΛΕΝΗ"_s},
                                                     {u"Text27"_s, kYes},
                                                     {u"Text34"_s, u"01/02/2002"_s}};
-  for (const auto& [name, typed] : ValidLine(u"123456789"_s, u" Καίρης-Παπαδάκης'; --"_s)) {
+  for (const auto& [name, typed] : ValidLine(u"123456789"_s, u" Καΐρης-Παπαδάκης'; --"_s)) {
     const auto other = stored_otherwise.find(name);
     EXPECT_EQ(form_->Text(name), other == stored_otherwise.end() ? typed : other->second)
         << name.toStdString();

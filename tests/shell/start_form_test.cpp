@@ -138,6 +138,7 @@ TEST_F(StartScreen, CancelKeepsTheTypedPeriodAndTheCarryOverChoice) {
   EXPECT_EQ(form_.FocusedField(), u"Month1"_s);
   form_.Command2_Click();
   EXPECT_EQ(form_.Text(u"ConMonth"_s), u"07"_s);
+  EXPECT_EQ(form_.SelectionOf(u"ConMonth"_s).value_or(Selection{}).length, 2);  // typed over
   EXPECT_EQ(form_.Text(u"ConYear"_s), u"2004"_s);
 }
 

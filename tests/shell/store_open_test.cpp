@@ -74,7 +74,7 @@ TEST_F(OpenStoreTest, WrongPasswordIsACriticalErrorWithSqlitesCode) {
   ExpectClosedAfterOneMessage(texts::kStoreCritical + u'\r' + texts::kErrorCode +
                               QString::number(SQLITE_NOTADB) + u'\r');
   EXPECT_EQ(dialogs_.LastMessage(), texts::kStoreCritical + u'\r' + texts::kErrorCode + u"26\r"_s +
-                                        QString::fromUtf8(sqlite3_errstr(SQLITE_NOTADB)));
+                                        texts::kStoreNotADatabase);
   EXPECT_EQ(Bytes(store_.Path()), before);
 }
 

@@ -1,0 +1,131 @@
+// The shared window mechanisms every screen is built on: boxes sized from
+// their maximum length and shown from their first character, the window
+// mirrored before a box opens, and button captions kept off the bevel.
+
+#include <gtest/gtest.h>
+
+#include <QBoxLayout>
+
+#include "driver.h"
+#include "gui/fields.h"
+#include "gui/form_binder.h"
+#include "gui/qt_dialogs.h"
+
+namespace veroxia::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class TinyForm : public Form {
+ public:
+  TinyForm() {
+    Declare(u"Code"_s, {}, 3);
+    Declare(u"Name"_s, {}, 30);
+    Declare(u"Street"_s, {}, 80);
+    Declare(u"Lock"_s, u"Lock"_s);
+  }
+};
+
+// A window of the three boxes one under the other, and a button.
+class BinderTest : public ::testing::Test {
+ protected:
+  BinderTest() {
+    auto* column = new QVBoxLayout(&window);  // owned by the window
+    binder = new FormBinder(form, window, {u"Code"_s, u"Name"_s, u"Street"_s});  // owned too
+    for (const QString& name : {u"Code"_s, u"Name"_s, u"Street"_s}) {
+      column->addWidget(binder->Add<QLineEdit>(name, &window));
+    }
+    column->addWidget(binder->Add<WrapButton>(u"Lock"_s, &window));
+    binder->Mirror();
+  }
+
+  void ShowAtWidth(int width) {
+    window.setFixedWidth(width);
+    ShowActive(window);
+  }
+
+  QLineEdit* Box(const QString& name) { return Find<QLineEdit>(window, name); }
+
+  TinyForm form;
+  QWidget window;
+  FormBinder* binder;
+};
+
+TEST_F(BinderTest, ABoxIsAsWideAsItsMaximumLengthNeeds) {
+  ShowAtWidth(2000);
+  for (const QString& name : {u"Code"_s, u"Name"_s, u"Street"_s}) {
+    const int max_length = form.At(name).max_length;
+    EXPECT_TRUE(ShowsWhole(*Box(name), QString(max_length, u'0'))) << name.toStdString();
+    EXPECT_FALSE(ShowsWhole(*Box(name), QString(max_length + 4, u'0'))) << name.toStdString();
+  }
+}
+
+TEST_F(BinderTest, ALongBoxTakesTheRoomOfANarrowWindow) {
+  ShowAtWidth(400);
+  const QRect room = window.rect().marginsRemoved(window.layout()->contentsMargins());
+  EXPECT_EQ(Box(u"Street"_s)->geometry().right(), room.right());
+  EXPECT_TRUE(ShowsWhole(*Box(u"Name"_s), QString(30, u'0')));
+  // A width given by the view stands; the binder sizes only what is left.
+  auto* capped = new QLineEdit(&window);  // owned by the window
+  FitToLength(*capped, 80, 150);
+  EXPECT_EQ(capped->maximumWidth(), 150);
+  FitToCharacters(*capped, 2);
+  binder->Bind(u"Street"_s, capped);
+  EXPECT_EQ(capped->maximumWidth(), WidthForCharacters(*capped, 2));
+}
+
+TEST_F(BinderTest, TextsFromTheLogicAreShownFromTheirFirstCharacter) {
+  ShowAtWidth(300);
+  const QString long_text(80, u'Ω');
+  QLineEdit& street = *Box(u"Street"_s);
+  form.At(u"Street"_s).text = long_text;  // loaded
+  binder->Mirror();
+  EXPECT_EQ(street.cursorPosition(), 0);
+
+  street.setFocus();
+  street.end(false);  // the user went to the end, then the box is locked
+  form.At(u"Street"_s).enabled = false;
+  binder->Mirror();
+  EXPECT_EQ(street.cursorPosition(), 0);
+
+  form.At(u"Street"_s).enabled = true;
+  form.Select(u"Street"_s, 80);  // the focus arrives selecting the whole text
+  binder->Mirror();
+  EXPECT_EQ(street.selectedText(), long_text);
+  EXPECT_EQ(street.cursorPosition(), 0);
+}
+
+TEST_F(BinderTest, ABoxOpenedByARoutineStandsOverTheStateReachedSoFar) {
+  ShowAtWidth(400);
+  QtDialogs dialogs(false);
+  binder->OnClick(u"Lock"_s, [&] {
+    form.At(u"Name"_s).enabled = false;
+    form.At(u"Name"_s).text = u"locked"_s;
+    dialogs.Message(u"m"_s, u"t"_s);
+    form.At(u"Street"_s).text = u"after"_s;
+  });
+  bool enabled = true;
+  QString shown;
+  EXPECT_TRUE(AnswerNextBox([&] { Click(window, u"Lock"_s); },
+                            [&](QMessageBox&) {
+                              enabled = Box(u"Name"_s)->isEnabled();
+                              shown = Box(u"Name"_s)->text();
+                            }));
+  EXPECT_FALSE(enabled);
+  EXPECT_EQ(shown, u"locked"_s);
+  EXPECT_EQ(Box(u"Street"_s)->text(), u"after"_s);  // and after the routine, as always
+}
+
+TEST(WrapButtonTest, CaptionsKeepOffTheBevelAtTheNarrowestWidth) {
+  WrapButton button;
+  button.setText(u"Εκτύπωση συγκεντρωτικού"_s);
+  button.resize(button.minimumSizeHint());
+  const QFontMetrics metrics = button.fontMetrics();
+  // The longest word, on a line of its own, a character away from each edge.
+  const int word = metrics.horizontalAdvance(u"συγκεντρωτικού"_s);
+  EXPECT_GE((button.width() - word) / 2, metrics.averageCharWidth());
+  EXPECT_TRUE(button.CaptionFits());
+}
+
+}  // namespace
+}  // namespace veroxia::testing
