@@ -145,9 +145,9 @@ void LinesView::Place(QGridLayout& grid, QWidget* parent, const LinesPlace& plac
   for (int i = 0; i < place.fields.size(); ++i) {
     if (i > 0) boxes->addWidget(binder_->Add<QLabel>(place.separator, parent));
     const LineField* field = FieldNamed(form_.Layout(), place.fields[i]);
-    if (field != nullptr) boxes->addWidget(Field(*field, parent, whole_row));
+    if (field != nullptr) boxes->addWidget(Field(*field, parent, whole_row), whole_row ? 1 : 0);
   }
-  if (!whole_row) boxes->addStretch(1);
+  boxes->addStretch(whole_row ? 0 : 1);  // a long box takes the room up to its length
   grid.addLayout(boxes, row, column + 1, 1, whole_row ? 3 : 1);
 }
 
