@@ -103,6 +103,20 @@ void FormBinder::Mirror() {
   }
 }
 
+void FormBinder::FocusFirst() {
+  if (!form_.FocusedField().isEmpty()) return;
+  for (const QString& name : focus_order_) {
+    const Control& control = form_.At(name);
+    if (!control.visible || !control.enabled || !control.tab_stop) continue;
+    if (on_focus_) {
+      on_focus_(name);
+    } else {
+      form_.SetFocus(name);
+    }
+    return;
+  }
+}
+
 void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
   const Control& control = form_.At(name);
   if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {

@@ -14,6 +14,7 @@
 // beginning of a long text is what the user sees.
 
 #include <QAbstractButton>
+#include <QBoxLayout>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -59,6 +60,21 @@ class FormBinder : public QObject {
 
   // Shows the form's state in the widgets.
   void Mirror();
+
+  // Where the form has no focus yet, the focus arrives at the first control
+  // of the focus order that can take it (through the OnFocus routine).
+  void FocusFirst();
+
+  // Two buttons in one place of a row: of the pair only one is ever shown.
+  template <class Button>
+  QWidget* SharedPlace(const QString& first, const QString& second, QWidget* parent) {
+    auto* place = new QWidget(parent);  // owned by parent
+    auto* stack = new QHBoxLayout(place);
+    stack->setContentsMargins(0, 0, 0, 0);
+    stack->addWidget(Add<Button>(first, place));
+    stack->addWidget(Add<Button>(second, place));
+    return place;
+  }
 
   QWidget* Widget(const QString& name) const;
   // Controls of the form that have no widget yet.

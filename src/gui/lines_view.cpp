@@ -105,16 +105,7 @@ LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect t
   binder_->OnClick(u"Nextcmd"_s, [this] { form_.Nextcmd_Click(); });
   binder_->OnClick(u"LastCmd"_s, [this] { form_.LastCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
-  // The window opens with the focus on the first control that can take it.
-  if (form_.FocusedField().isEmpty()) {
-    for (const QString& name : form_.FocusOrder()) {
-      const Control& control = form_.At(name);
-      if (control.visible && control.enabled && control.tab_stop) {
-        form_.GotFocus(name);
-        break;
-      }
-    }
-  }
+  binder_->FocusFirst();
   binder_->Mirror();
   FixWindow(*this, twips.left(), twips.top(), twips.width(), twips.height());
 }
@@ -186,16 +177,10 @@ QLayout* LinesView::BuildButtons() {
     row->addWidget(button);
   }
   row->addSpacing(TwipsX(*this, 120));
-  // "New" and "Store", "Correct" and "Cancel" share a place each: of each
-  // pair only one is ever shown. "Clear" keeps its place when hidden.
-  for (const auto& pair : {std::pair{"NewCmd", "OkCmd"}, std::pair{"UpDateCmd", "CancelCmd"}}) {
-    auto* place = new QWidget(this);
-    auto* stack = new QHBoxLayout(place);
-    stack->setContentsMargins(0, 0, 0, 0);
-    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.first), place));
-    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.second), place));
-    row->addWidget(place, 1);
-  }
+  // "New" and "Store", "Correct" and "Cancel" share a place each. "Clear"
+  // keeps its place when hidden.
+  row->addWidget(binder_->SharedPlace<WrapButton>(u"NewCmd"_s, u"OkCmd"_s, this), 1);
+  row->addWidget(binder_->SharedPlace<WrapButton>(u"UpDateCmd"_s, u"CancelCmd"_s, this), 1);
   for (const char* name : {"ClearCmd", "DeleteCmd", "SeekCmd", "BackCmd"}) {
     auto* button = binder_->Add<WrapButton>(QString::fromLatin1(name), this);
     QSizePolicy policy = button->sizePolicy();
@@ -206,12 +191,6 @@ QLayout* LinesView::BuildButtons() {
   return row;
 }
 
-void LinesView::closeEvent(QCloseEvent* event) {
-  if (form_.QueryClose()) {
-    event->accept();
-  } else {
-    event->ignore();
-  }
-}
+void LinesView::closeEvent(QCloseEvent* event) { event->setAccepted(form_.QueryClose()); }
 
 }  // namespace veroxia

@@ -70,14 +70,7 @@ OvtForm1View::OvtForm1View(OvtForm1& form)
   binder_->OnClick(u"PrintSumCmd"_s, [this] { form_.PrintSumCmd_Click(); });
   binder_->OnClick(u"CreateFile"_s, [this] { form_.CreateFile_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
-  // The window opens with the focus on the first control that can take it.
-  for (const QString& name : form_.FocusOrder()) {
-    const Control& control = form_.At(name);
-    if (control.visible && control.enabled && control.tab_stop) {
-      form_.GotFocus(name);
-      break;
-    }
-  }
+  binder_->FocusFirst();
   // The options show the selected type after every event.
   binder_->OnMirror([this] {
     for (int i = 0; i < 3; ++i) {
@@ -257,25 +250,12 @@ QLayout* OvtForm1View::BuildButtons() {
   for (const char* name : {"CreateFile", "PrintSumCmd", "PrintCmd", "QorInsert"}) {
     row->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(name), this));
   }
-  // "Save" and "Correct" share one place, "Return" and "Cancel" another: of
-  // each pair only one is ever shown.
-  for (const auto& pair : {std::pair{"SaveCmd", "UpDateCmd"}, std::pair{"ExitCmd", "CancelCmd"}}) {
-    auto* place = new QWidget(this);
-    auto* stack = new QHBoxLayout(place);
-    stack->setContentsMargins(0, 0, 0, 0);
-    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.first), place));
-    stack->addWidget(binder_->Add<WrapButton>(QString::fromLatin1(pair.second), place));
-    row->addWidget(place);
-  }
+  // "Save" and "Correct" share one place, "Return" and "Cancel" another.
+  row->addWidget(binder_->SharedPlace<WrapButton>(u"SaveCmd"_s, u"UpDateCmd"_s, this));
+  row->addWidget(binder_->SharedPlace<WrapButton>(u"ExitCmd"_s, u"CancelCmd"_s, this));
   return row;
 }
 
-void OvtForm1View::closeEvent(QCloseEvent* event) {
-  if (form_.QueryClose()) {
-    event->accept();
-  } else {
-    event->ignore();
-  }
-}
+void OvtForm1View::closeEvent(QCloseEvent* event) { event->setAccepted(form_.QueryClose()); }
 
 }  // namespace veroxia
