@@ -46,12 +46,6 @@ Row SampleHeader(int id, const PeriodTexts& period) {
   return row;
 }
 
-// The same, by kind of row.
-EmployeeRow SampleEmployee(int id, int row_num, const QString& insured_id);
-ConEmployeeRow SampleConEmployee(int id, int row_num, const QString& insured_id);
-EmployerRow SampleEmployer(int id, const PeriodTexts& period);
-ConEmployerRow SampleConEmployer(int id, const QString& month, const QString& year);
-
 // The values of a row in stored order, the numbers as decimal texts.
 template <class Row>
 std::vector<Text> ValuesOf(Row row) {
