@@ -1,7 +1,7 @@
-// The header checks of the common-business screen: each rule on its field in
-// the order of the sequence, the field names handed to the shared checks,
-// where the focus goes, the stop date against the type; and the sequence
-// runner itself.
+// The header checks of the common-business screen: each rule on its field,
+// the field names handed to the shared checks, where the focus goes, the stop
+// date against the type, what may be left out; and the sequence runner
+// itself. Their order is seen in the states' table.
 
 #include <stdexcept>
 

@@ -18,7 +18,8 @@ namespace veroxia::testing {
 
 using namespace Qt::StringLiterals;
 
-// Fields that are never unlocked, and the two that are never shown.
+// Fields that are never unlocked, and the two that are never shown (all
+// others always are).
 inline const QStringList kAlwaysLocked{u"Text11_1"_s, u"Text11_2"_s, u"Text12_1"_s, u"Text12_2"_s,
                                        u"Text13_1"_s, u"Text13_2"_s, u"Text13_3"_s};
 inline const QStringList kHidden{u"Text1"_s, u"KodDescr"_s};
@@ -92,7 +93,7 @@ class OvtForm1Test : public ::testing::Test {
   }
 
   // The state the user sees, listed as StateOf lists it; anything out of
-  // place (a field left locked, a hidden one shown) is listed too.
+  // place (a field left locked, a field shown or hidden wrongly) is listed too.
   QStringList State() const {
     const auto enabled = [this](const QString& name) { return form_->At(name).enabled; };
     const QStringList& switched = form_->Layout().switched;
@@ -103,8 +104,10 @@ class OvtForm1Test : public ::testing::Test {
     for (const QString& name : kAlwaysLocked) {
       if (enabled(name)) state << name + u" unlocked"_s;
     }
-    for (const QString& name : kHidden) {
-      if (form_->At(name).visible) state << name + u" shown"_s;
+    for (const HeaderField& field : form_->Layout().fields) {
+      const bool shown = form_->At(field.name).visible;
+      if (shown == kHidden.contains(field.name))
+        state << field.name + (shown ? u" shown"_s : u" hidden"_s);
     }
     for (const QString& name : kButtons + kActions) {
       if (form_->At(name).visible) state << (enabled(name) ? name : name + u'-');

@@ -1,6 +1,7 @@
-// The states of the common-business header screen: which fields are unlocked
-// and which buttons are shown and usable, on opening and after each button;
-// the type selection, the focus selection, and leaving the screen.
+// The states of the common-business header screen: which fields are unlocked,
+// which buttons are shown and usable, what is told and which screen follows,
+// on opening and after each button; the type selection, the focus selection,
+// the cancelled correction and the close box.
 
 #include <functional>
 #include <map>
@@ -18,7 +19,7 @@ using namespace testing;
 
 struct StateCase {
   const char* name;
-  const char* steps;  // see steps_
+  const char* steps;  // the names of steps_, in order
   QStringList state;
   bool is_new_header;
   QStringList messages = {};  // the title and text of each message shown
@@ -29,6 +30,8 @@ void PrintTo(const StateCase& c, std::ostream* out) { *out << c.name; }
 
 class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface<StateCase> {
  protected:
+  // Before "open" the steps prepare the store and the variables; after it
+  // they type and press buttons.
   const std::map<QString, std::function<void()>> steps_{
       {u"row"_s, [this] { Store(StoredRow()); }},
       {u"previous"_s, [this] { Store(StoredRow(vars_.PreviousDeclarationId)); }},
