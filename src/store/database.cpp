@@ -29,6 +29,18 @@ Database::~Database() {
   sqlite3_close_v2(db_);
 }
 
+// Changes are appended to a write-ahead log beside the store and committed
+// with one flush to disk, where a rollback journal needs several: a line is
+// stored or deleted in a few milliseconds even on a slow disk. Closing the
+// store writes the log back and removes it. Where the log cannot be made (a
+// folder that cannot hold it) the rollback journal stays.
+void Database::UseWriteAheadLog(Database& db) {
+  try {
+    db.Exec("PRAGMA journal_mode = WAL");
+  } catch (const StoreError&) {
+  }
+}
+
 std::unique_ptr<Database> Database::OpenWith(const QString& path, const QString& password,
                                              int flags) {
   sqlite3* raw = nullptr;
@@ -61,15 +73,7 @@ std::unique_ptr<Database> Database::Open(const QString& path, const QString& pas
   if (sqlite3_db_readonly(db->db_, "main") == 1) {
     throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
   }
-  // Changes are appended to a write-ahead log beside the store and committed
-  // with one flush to disk, where a rollback journal needs several: a line
-  // is stored or deleted in a few milliseconds even on a slow disk. Closing
-  // the store writes the log back and removes it. Where the log cannot be
-  // made (a folder that cannot hold it) the rollback journal stays.
-  try {
-    db->Exec("PRAGMA journal_mode = WAL");
-  } catch (const StoreError&) {
-  }
+  UseWriteAheadLog(*db);
   return db;
 }
 
@@ -77,7 +81,9 @@ std::unique_ptr<Database> Database::Create(const QString& path, const QString& p
   if (QFileInfo::exists(path)) {
     throw StoreError{SQLITE_CANTOPEN, QStringLiteral("the file exists already: ") + path};
   }
-  return OpenWith(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  auto db = OpenWith(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  UseWriteAheadLog(*db);  // a new store is made in the mode it is opened in
+  return db;
 }
 
 void Database::Exec(std::string_view sql) {

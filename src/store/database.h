@@ -58,6 +58,7 @@ class Database {
 
  private:
   explicit Database(sqlite3* db);
+  static void UseWriteAheadLog(Database& db);
   static std::unique_ptr<Database> OpenWith(const QString& path, const QString& password,
                                             int flags);
   sqlite3* db_;

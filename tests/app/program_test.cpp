@@ -8,146 +8,93 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <functional>
 
 #include "shell/texts.h"
-#include "store/database.h"
 #include "store/schema.h"
 #include "store/store_file.h"
 
-namespace veroxia::testing {
+namespace veroxia {
 namespace {
 
-constexpr int kTimeoutMs = 30'000;
-
-struct Outcome {
-  int status = -1;
-  QStringList lines;  // what the program wrote on standard output, line by line
-};
-
-// A copy of the program in a directory of its own, where it looks for the store.
-class ProgramDir {
- public:
-  ProgramDir() {
-    program_ = dir_.filePath(QStringLiteral("veroxia"));
-    EXPECT_TRUE(QFile::copy(QStringLiteral(VEROXIA_BINARY), program_));
-    QFile::setPermissions(program_, QFile::permissions(program_) | QFile::ExeOwner);
-  }
-  QString Store() const { return StorePath(dir_.path()); }
-  QStringList Entries() const {
-    return QDir(dir_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-  }
-
-  Outcome Start() const {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("VEROXIA_UNATTENDED"), QStringLiteral("1"));
-    process.setProcessEnvironment(environment);
-    process.start(program_, {});
-    Outcome run;
-    if (!process.waitForFinished(kTimeoutMs)) {
-      process.kill();
-      process.waitForFinished();
-      ADD_FAILURE() << "the program did not end";
-      return run;
-    }
-    run.status = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    run.lines = QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
-    return run;
-  }
-
- private:
-  QTemporaryDir dir_;
-  QString program_;
-};
-
-void WriteFile(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  ASSERT_EQ(file.write(bytes), bytes.size());
-}
+using namespace Qt::StringLiterals;
 
 QByteArray ReadFile(const QString& path) {
   QFile file(path);
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// What stands where the store should be, and what the program must say of it.
-struct BrokenStore {
-  const char* name;
-  std::function<void(const QString& path)> make;
-  bool critical;  // the critical-error message; otherwise the missing-file one
-};
+TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
+  const struct {
+    const char* name;
+    std::function<void(const QString& path)> make;  // what stands where the store should be
+    bool critical;  // the critical-error message; otherwise the missing-file one
+  } cases[] = {
+      {"NoStore", [](const QString&) {}, false},
+      {"Directory", [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); }, false},
+      {"OtherPassword", [](const QString& path) { CreateStore(path, u"other"_s); }, true},
+      {"NotAStore",
+       [](const QString& path) {
+         QFile file(path);
+         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+         file.write(QByteArray(16384, 'Z'));
+       },
+       true},
+      {"ReadOnly",
+       [](const QString& path) {
+         CreateStore(path, StorePassword());
+         QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+       },
+       true},
+  };
+  const QString missing = texts::kAppTitle + u'\t' + texts::kStoreMissing;
+  const QString critical =
+      texts::kAppTitle + u'\t' + texts::kStoreCritical + u"\\n"_s + texts::kErrorCode;
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    QTemporaryDir dir;
+    const QString program = dir.filePath(u"veroxia"_s);
+    ASSERT_TRUE(QFile::copy(QStringLiteral(VEROXIA_BINARY), program));
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    const QString store = StorePath(dir.path());
+    c.make(store);
+    const auto entries = [&dir] {
+      return QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    };
+    const QStringList entries_before = entries();
+    const QFileInfo before(store);
+    const QByteArray bytes = ReadFile(store);
 
-void PrintTo(const BrokenStore& c, std::ostream* os) { *os << c.name; }
-
-const QString kMissingLine = texts::kAppTitle + u'\t' + texts::kStoreMissing;
-const QString kCriticalStart =
-    texts::kAppTitle + u'\t' + texts::kStoreCritical + QStringLiteral("\\n") + texts::kErrorCode;
-
-class BrokenStoreTest : public ::testing::TestWithParam<BrokenStore> {};
-
-TEST_P(BrokenStoreTest, TheProgramSaysWhyEndsWithOneAndLeavesTheStoreAlone) {
-  ProgramDir dir;
-  GetParam().make(dir.Store());
-  const QFileInfo before_info(dir.Store());
-  const QByteArray before = before_info.isFile() ? ReadFile(dir.Store()) : QByteArray();
-  const QStringList entries = dir.Entries();
-
-  const Outcome run = dir.Start();
-
-  EXPECT_EQ(run.status, 1);
-  ASSERT_EQ(run.lines.size(), 1) << run.lines.join(u'\n').toStdString();
-  if (GetParam().critical) {
-    EXPECT_TRUE(run.lines[0].startsWith(kCriticalStart)) << run.lines[0].toStdString();
-    EXPECT_GT(run.lines[0].size(), kCriticalStart.size() + 2);  // a number and a description
-  } else {
-    EXPECT_EQ(run.lines[0], kMissingLine);
-  }
-  EXPECT_EQ(dir.Entries(), entries);
-  const QFileInfo after_info(dir.Store());
-  EXPECT_EQ(after_info.exists(), before_info.exists());
-  EXPECT_EQ(after_info.isDir(), before_info.isDir());
-  EXPECT_EQ(after_info.permissions(), before_info.permissions());
-  if (before_info.isFile()) {
-    EXPECT_EQ(ReadFile(dir.Store()), before);
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    environment.insert(u"VEROXIA_UNATTENDED"_s, u"1"_s);
+    process.setProcessEnvironment(environment);
+    process.start(program, {});
+    if (!process.waitForFinished(30'000)) {
+      process.kill();
+      process.waitForFinished();
+      FAIL() << "the program did not end";
+    }
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    const QStringList lines =
+        QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    ASSERT_EQ(lines.size(), 1) << lines.join(u'\n').toStdString();
+    if (c.critical) {
+      EXPECT_TRUE(lines[0].startsWith(critical)) << lines[0].toStdString();
+      EXPECT_GT(lines[0].size(), critical.size() + 2);  // a number and a description
+    } else {
+      EXPECT_EQ(lines[0], missing);
+    }
+    EXPECT_EQ(entries(), entries_before);
+    const QFileInfo after(store);
+    EXPECT_EQ(after.isDir(), before.isDir());
+    EXPECT_EQ(after.permissions(), before.permissions());
+    EXPECT_EQ(ReadFile(store), bytes);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Stores, BrokenStoreTest,
-    ::testing::Values(BrokenStore{"NoStore", [](const QString&) {}, false},
-                      BrokenStore{"OtherPassword",
-                                  [](const QString& path) {
-                                    auto db = Database::Create(path, QStringLiteral("other"));
-                                    db->Exec("CREATE TABLE QOR_EMPLOYERS (id INTEGER)");
-                                    db->Exec("INSERT INTO QOR_EMPLOYERS VALUES (1)");
-                                  },
-                                  true},
-                      BrokenStore{"RandomBytes",
-                                  [](const QString& path) {
-                                    QRandomGenerator random(20020401);
-                                    QByteArray bytes(16384, Qt::Uninitialized);
-                                    for (char& byte : bytes)
-                                      byte = static_cast<char>(random.bounded(256));
-                                    WriteFile(path, bytes);
-                                  },
-                                  true},
-                      BrokenStore{"Directory",
-                                  [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); },
-                                  false},
-                      BrokenStore{"ReadOnly",
-                                  [](const QString& path) {
-                                    CreateStore(path, StorePassword());
-                                    QFile::setPermissions(path, QFile::ReadOwner |
-                                                                    QFile::ReadGroup |
-                                                                    QFile::ReadOther);
-                                  },
-                                  true}),
-    [](const ::testing::TestParamInfo<BrokenStore>& info) { return info.param.name; });
-
 }  // namespace
-}  // namespace veroxia::testing
+}  // namespace veroxia

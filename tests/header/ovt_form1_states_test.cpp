@@ -1,11 +1,10 @@
-// The states of the common-business header screen: which fields are unlocked
-// and which buttons are shown and usable, on opening and after each button;
-// the type selection, the focus selection, and leaving the screen.
+// The states of the common-business header screen: which fields are unlocked,
+// which buttons are shown and usable, what is told and which screen follows,
+// on opening and after each button; the type selection, the focus selection,
+// the cancelled correction and the close box.
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <functional>
+#include <map>
 
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
@@ -15,288 +14,192 @@ namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::ScreenState;
-
-class OvtForm1States : public testing::OvtForm1Test {};
-
-class StateTable;
+using namespace header_texts;
+using namespace testing;
 
 struct StateCase {
   const char* name;
-  std::function<void(StateTable&)> steps;
-  ScreenState expected;
+  const char* steps;  // the names of steps_, in order
+  QStringList state;
   bool is_new_header;
+  QStringList messages = {};  // the title and text of each message shown
+  QStringList shown = {};     // the screens shown instead
 };
 
-void PrintTo(const StateCase& state, std::ostream* out) { *out << state.name; }
+void PrintTo(const StateCase& c, std::ostream* out) { *out << c.name; }
 
-class StateTable : public OvtForm1States, public ::testing::WithParamInterface<StateCase> {
- public:
-  void OpenStored() {
-    Store(StoredRow());
-    Open();
-  }
-  void OpenNew() { Open(); }
-  void OpenTakenOver() {
-    Store(StoredRow(kId - 1));
-    store_.vars.PreviousDeclarationId = kId - 1;
-    store_.vars.CarryOver = true;
-    Open();
-  }
-  OvtForm1& Form() { return *form_; }
-  void TypeValid() { TypeValidHeader(); }
-  Database& Db() { return db_; }
+class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface<StateCase> {
+ protected:
+  // Before "open" the steps prepare the store and the variables; after it
+  // they type and press buttons.
+  const std::map<QString, std::function<void()>> steps_{
+      {u"row"_s, [this] { Store(StoredRow()); }},
+      {u"previous"_s, [this] { Store(StoredRow(vars_.PreviousDeclarationId)); }},
+      {u"carry"_s, [this] { vars_.CarryOver = true; }},
+      {u"drop"_s, [this] { db_.Exec("DROP TABLE QOR_EMPLOYERS"); }},
+      {u"vanish"_s, [this] { db_.Exec("DELETE FROM QOR_EMPLOYERS"); }},
+      {u"open"_s, [this] { Open(); }},
+      {u"valid"_s, [this] { TypeValidHeader(); }},
+      {u"type02"_s, [this] { form_->Option1_Click(1); }},
+      {u"blank"_s, [this] { form_->Type(u"Text3"_s, {}); }},
+      {u"nocity"_s, [this] { form_->Type(u"Text10"_s, {}); }},
+      {u"badtotal"_s, [this] { form_->Type(u"Text17_3"_s, u"x"_s); }},
+      {u"save"_s, [this] { form_->SaveCmd_Click(); }},
+      {u"update"_s, [this] { form_->UpDateCmd_Click(); }},
+      {u"cancel"_s, [this] { form_->CancelCmd_Click(); }},
+      {u"print"_s, [this] { form_->PrintCmd_Click(); }},
+      {u"printsum"_s, [this] { form_->PrintSumCmd_Click(); }},
+      {u"file"_s, [this] { form_->CreateFile_Click(); }},
+      {u"exit"_s, [this] { form_->ExitCmd_Click(); }},
+      {u"employees"_s, [this] { form_->QorInsert_Click(); }},
+  };
 };
+
+const QString kNoTable = u"no such table: QOR_EMPLOYERS"_s;
+const QStringList kSaved{kSaveTitle, kSaveDone};
+const QStringList kRefused{texts::kAppTitle, kNoTable};  // a store error: its own text alone
+const QStringList kUnreadable{
+    texts::kAppTitle,
+    kLoadFailed + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s + texts::kErrorDescription + kNoTable};
+const QStringList kNotYet{texts::kAppTitle, kNotAvailable};
 
 const StateCase kStateCases[] = {
-    {"NewHeader", [](StateTable& t) { t.OpenNew(); }, testing::kNewState, true},
-    {"TakenOver", [](StateTable& t) { t.OpenTakenOver(); }, testing::kTakeoverState, true},
-    {"StoredHeader", [](StateTable& t) { t.OpenStored(); }, testing::kViewState, false},
-    {"Correcting",
-     [](StateTable& s) {
-       s.OpenStored();
-       s.Form().UpDateCmd_Click();
-     },
-     testing::kCorrectingState, false},
-    {"CancelledCorrection",
-     [](StateTable& s) {
-       s.OpenStored();
-       s.Form().UpDateCmd_Click();
-       s.Form().CancelCmd_Click();
-     },
-     testing::kViewState, false},
-    {"NewHeaderSaved",
-     [](StateTable& s) {
-       s.OpenNew();
-       s.TypeValid();
-       s.Form().SaveCmd_Click();
-     },
-     testing::kViewState, false},
-    {"NewHeaderSavedThenCorrecting",
-     [](StateTable& s) {
-       s.OpenNew();
-       s.TypeValid();
-       s.Form().SaveCmd_Click();
-       s.Form().UpDateCmd_Click();
-     },
-     testing::kCorrectingState, false},
-    {"TakenOverSaved",
-     [](StateTable& s) {
-       s.OpenTakenOver();
-       s.Form().SaveCmd_Click();
-     },
-     testing::kViewState, false},
-    {"CorrectionOfAVanishedRow",
-     [](StateTable& s) {
-       s.OpenStored();
-       s.Form().UpDateCmd_Click();
-       s.Db().Exec("DELETE FROM QOR_EMPLOYERS");
-       s.Form().SaveCmd_Click();
-     },
-     testing::kViewState, false},
-    {"NewHeaderFailingACheck",
-     [](StateTable& s) {
-       s.OpenNew();
-       s.TypeValid();
-       s.Form().Type(u"Text2"_s, u"1"_s);
-       s.Form().SaveCmd_Click();
-     },
-     testing::kNewState, true},
+    {"NewHeader", "open", kNewState, true},
+    {"TakenOver", "previous carry open", kTakeoverState, true},
+    {"StoredHeader", "row open", kViewState, false},
+    {"Correcting", "row open update", kCorrectingState, false},
+    {"CancelledCorrection", "row open update cancel", kViewState, false},
+    {"NewHeaderSaved", "open valid save", kViewState, false, kSaved},
+    {"TakenOverSaved", "previous carry open save", kViewState, false, kSaved},
+    {"CorrectedRowVanished",
+     "row open update valid vanish save",
+     kViewState,
+     false,
+     {kSaveTitle, kSaveFailed}},
+    // Only the first failure in the order of the checks is told.
+    {"FailedCheck",
+     "open valid type02 badtotal nocity blank save",
+     kNewState,
+     true,
+     {texts::kAppTitle, kText3Blank}},
+    {"FailedLaterCheck",
+     "open valid type02 badtotal nocity save",
+     kNewState,
+     true,
+     {texts::kAppTitle, kCityBlank}},
+    {"InsertRefused", "open valid drop save", kNewState, true, kRefused},
+    {"UpdateRefused", "row open update valid drop save", kCorrectingState, false, kRefused},
+    // A store that cannot be read leaves only the return.
+    {"Unreadable", "drop open", kLoadFailedState, false, kUnreadable},
+    {"UnreadableTakeover", "drop carry open", kLoadFailedState, true, kUnreadable},
+    {"FileAndPrintouts", "row open print printsum file", kViewState, false,
+     kNotYet + kNotYet + kNotYet},
+    // The buttons that leave show the next screen, without a question.
+    {"Returned", "open exit", kNewState, true, {}, {u"start"_s}},
+    {"ToTheEmployees", "row open employees", kViewState, false, {}, {u"lines common"_s}},
 };
 
-TEST_P(StateTable, FieldsAndButtons) {
-  GetParam().steps(*this);
-  EXPECT_EQ(State(), GetParam().expected);
-  EXPECT_EQ(form_->IsNewHeader(), GetParam().is_new_header);
+TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
+  const StateCase& c = GetParam();
+  for (const QString& step : QString::fromLatin1(c.steps).split(u' ')) steps_.at(step)();
+  EXPECT_EQ(State(), c.state);
+  EXPECT_EQ(form_->IsNewHeader(), c.is_new_header);
+  QStringList messages;
+  for (const auto& message : dialogs_.messages) messages << message.title << message.text;
+  EXPECT_EQ(messages, c.messages);
+  EXPECT_EQ(screens_.shown, c.shown);
+  EXPECT_EQ(form_->ClosingByCommand(), !c.shown.isEmpty());
+  EXPECT_TRUE(c.shown.isEmpty() || form_->QueryClose());  // closes without a question
+  EXPECT_TRUE(dialogs_.questions.empty());
   ExpectBusyBalanced();
 }
 
-INSTANTIATE_TEST_SUITE_P(OvtForm1States, StateTable, ::testing::ValuesIn(kStateCases),
+INSTANTIATE_TEST_SUITE_P(Steps, OvtForm1States, ::testing::ValuesIn(kStateCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(OvtForm1States, OpeningSetsTitleTypeAndPictures) {
-  for (const char* name : {"ovt2.gif", "qormain.ico"}) {
-    QFile file(QDir(store_.Dir()).filePath(QString::fromLatin1(name)));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("GIF89a");
-  }
-  OvtForm1& form = Open();
-  EXPECT_EQ(form.Title(), header_texts::kOvtForm1Title);
-  EXPECT_EQ(QFileInfo(form.ImagePath()), QFileInfo(QDir(store_.Dir()).filePath(u"ovt2.gif"_s)));
-  EXPECT_EQ(QFileInfo(form.IconPath()), QFileInfo(QDir(store_.Dir()).filePath(u"qormain.ico"_s)));
-  EXPECT_EQ(form.SelectedType(), 0);
-  EXPECT_EQ(form.Text(u"Text1"_s), u"01"_s);
-  EXPECT_EQ(form.Text(u"KodDescr"_s), header_texts::kType01Descr);
-  EXPECT_FALSE(form.ClosingByCommand());
-  EXPECT_TRUE(dialogs_.messages.empty());
-  ExpectBusyBalanced();
-  EXPECT_FALSE(dialogs_.busy_calls.empty());
-}
+using OvtForm1Screen = OvtForm1Test;
 
-struct MaxLength {
-  const char* field;
-  int length;
-};
-
-struct TypeCase {
-  int index;
-  const char* code;
-};
-
-TEST_F(OvtForm1States, TypeSelectionSetsCodeDescriptionAndGreysTheOtherCaptions) {
-  OvtForm1& form = Open();
-  const QString descriptions[] = {header_texts::kType01Descr, header_texts::kType02Descr,
-                                  header_texts::kType03Descr};
-  for (const TypeCase& type : {TypeCase{1, "02"}, TypeCase{2, "03"}, TypeCase{0, "01"}}) {
-    form.Option1_Click(type.index);
-    EXPECT_EQ(form.SelectedType(), type.index);
-    EXPECT_EQ(form.Text(u"Text1"_s), QString::fromLatin1(type.code));
-    EXPECT_EQ(form.Text(u"KodDescr"_s), descriptions[type.index]);
-    for (int i = 0; i < 3; ++i) {
-      EXPECT_EQ(form.At(u"Option1Lbl_"_s + QString::number(i)).enabled, i == type.index)
-          << "type " << type.code << ", caption " << i;
-    }
-  }
-}
-
-TEST_F(OvtForm1States, HiddenCodeChangedInTheViewStateSelectsAgain) {
-  Store(StoredRow());  // type 02
-  OvtForm1& form = Open();
-  ASSERT_EQ(form.SelectedType(), 1);
-  form.Type(u"Text1"_s, u"03"_s);
-  form.Text1_Change();
-  EXPECT_EQ(form.Text(u"KodDescr"_s), header_texts::kType03Descr);
-  EXPECT_TRUE(form.At(u"Option1Lbl_2"_s).enabled);
-  EXPECT_FALSE(form.At(u"Option1Lbl_1"_s).enabled);
-  EXPECT_EQ(form.SelectedType(), 1);  // the option buttons are not touched
-
-  form.Type(u"Text1"_s, u"07"_s);  // any other code stands for 01
-  form.Text1_Change();
-  EXPECT_EQ(form.Text(u"Text1"_s), u"01"_s);
-  EXPECT_EQ(form.Text(u"KodDescr"_s), header_texts::kType01Descr);
-  EXPECT_TRUE(form.At(u"Option1Lbl_0"_s).enabled);
-}
-
-TEST_F(OvtForm1States, HiddenCodeChangedWhileEditingDoesNothing) {
-  OvtForm1& form = Open();  // new header: the save button is shown
-  form.Type(u"Text1"_s, u"02"_s);
-  form.Text1_Change();
-  EXPECT_EQ(form.Text(u"Text1"_s), u"02"_s);
-  EXPECT_EQ(form.Text(u"KodDescr"_s), header_texts::kType01Descr);
-  EXPECT_TRUE(form.At(u"Option1Lbl_0"_s).enabled);
-  EXPECT_FALSE(form.At(u"Option1Lbl_1"_s).enabled);
-}
-
-struct FocusCase {
-  const char* field;
-  QString text;
-  int selected;
-};
-
-TEST_F(OvtForm1States, AFieldTakingTheFocusHasItsWholeContentSelected) {
-  OvtForm1& form = Open();
-  const FocusCase cases[] = {
-      {"Text2", u"12"_s, 2},
-      {"Text4", QString(80, u'Α'), 80},
-      {"Text3", u"Αθηνών"_s, 6},
-      {"Text14_1", u"12345"_s, 5},
-      {"Text17_3", u"1,5"_s, 3},
-      {"FlDateTxt", u"08/05/2002"_s, 10},
-      {"StopDateTxt", u"__/__/____"_s, 10},
+// The options set the hidden code and description and grey the other two
+// captions; the hidden code changed selects again only in the view state,
+// leaving the options as they are.
+TEST_F(OvtForm1Screen, TypeSelection) {
+  const struct {
+    bool stored;   // a header of type 02 is stored
+    int option;    // clicked; -1: none
+    QString code;  // typed into the hidden code; empty: nothing
+    QString shown;
+    int type;  // whose caption shows, and description unless the stored one shows
+  } cases[] = {
+      {false, -1, {}, u"01"_s, 0},      {false, 1, {}, u"02"_s, 1},
+      {false, 2, {}, u"03"_s, 2},       {true, -1, {}, u"02"_s, 1},
+      {true, -1, u"03"_s, u"03"_s, 2},  {true, -1, u"07"_s, u"01"_s, 0},
+      {false, -1, u"02"_s, u"02"_s, 0},
   };
-  for (const FocusCase& focus : cases) {
-    const QString name = QString::fromLatin1(focus.field);
-    form.Type(name, focus.text);
-    form.GotFocus(name);
-    EXPECT_EQ(form.FocusedField(), name);
-    const auto selection = form.SelectionOf(name);
-    ASSERT_TRUE(selection.has_value()) << focus.field;
-    EXPECT_EQ(selection->start, 0) << focus.field;
-    EXPECT_EQ(selection->length, focus.selected) << focus.field;
+  const QString descriptions[] = {kType01Descr, kType02Descr, kType03Descr};
+  Store(StoredRow());
+  for (const auto& c : cases) {
+    SCOPED_TRACE(::testing::Message() << c.stored << c.option << c.code.toStdString());
+    vars_.DeclarationId = c.stored ? kId : kId + 1;
+    OvtForm1& form = Open();
+    if (c.option >= 0) form.Option1_Click(c.option);
+    if (!c.code.isEmpty()) {
+      form.Type(u"Text1"_s, c.code);
+      form.Text1_Change();
+    }
+    EXPECT_EQ(form.Text(u"Text1"_s), c.shown);
+    EXPECT_EQ(form.Text(u"KodDescr"_s),
+              c.stored && c.code.isEmpty() ? *StoredRow().declaration_descr : descriptions[c.type]);
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(form.At(u"Option1Lbl_%1"_s.arg(i)).enabled, i == c.type);
+    EXPECT_EQ(form.SelectedType(), c.option >= 0 ? c.option : c.stored);  // the code selects none
   }
 }
 
-TEST_F(OvtForm1States, CorrectionStartsInTheBranchCode) {
+TEST_F(OvtForm1Screen, AFieldTakingTheFocusHasItsWholeContentSelected) {
+  OvtForm1& form = Open();
+  for (const auto& [field, text] : {std::pair{u"Text2"_s, u"12"_s},
+                                    {u"Text4"_s, QString(80, u'Α')},
+                                    {u"Text14_1"_s, u"12345"_s},
+                                    {u"StopDateTxt"_s, kEmptyDateBox}}) {
+    form.Type(field, text);
+    form.GotFocus(field);
+    EXPECT_EQ(form.FocusedField(), field);
+    const auto selection = form.SelectionOf(field);
+    EXPECT_EQ(selection ? selection->length : -1, static_cast<int>(text.size()));
+  }
+  form.GotFocus(u"SaveCmd"_s);  // not a field: the focus only
+  EXPECT_EQ(form.FocusedField(), u"SaveCmd"_s);
+  EXPECT_FALSE(form.SelectionOf(u"SaveCmd"_s).has_value());
+}
+
+TEST_F(OvtForm1Screen, CorrectionStartsInTheBranchCodeAndCancelBringsBackTheStoredValues) {
   Store(StoredRow());
   OvtForm1& form = Open();
+  const QStringList shown = Texts(form.Names());
   form.UpDateCmd_Click();
   EXPECT_EQ(form.FocusedField(), u"Text2"_s);
-  EXPECT_EQ(form.SelectionOf(u"Text2"_s).value_or(Selection{}).length, 3);  // "051", selected
-}
-
-TEST_F(OvtForm1States, CancelBringsBackExactlyTheStoredValues) {
-  Store(StoredRow());
-  OvtForm1& form = Open();
-  QStringList shown;
-  for (const QString& name : form.Names()) shown << form.Text(name);
-  const int type = form.SelectedType();
-
-  form.UpDateCmd_Click();
-  for (const QString& name : testing::kSwitchedFields) {
+  EXPECT_EQ(form.SelectionOf(u"Text2"_s).value_or(Selection{}).length,
+            std::min<qsizetype>(form.Text(u"Text2"_s).size(), 15));  // selected on arrival
+  for (const QString& name : form.Layout().switched) {
     if (!name.startsWith(u"Option"_s)) form.Type(name, u"9"_s);
   }
   form.Option1_Click(2);
   form.CancelCmd_Click();
-
-  QStringList after;
-  for (const QString& name : form.Names()) after << form.Text(name);
-  EXPECT_EQ(after, shown);
-  EXPECT_EQ(form.SelectedType(), type);
-  EXPECT_EQ(State(), testing::kViewState);
-  ExpectBusyBalanced();
+  EXPECT_EQ(Texts(form.Names()), shown);
+  EXPECT_EQ(form.SelectedType(), 1);
 }
 
-TEST_F(OvtForm1States, ReturnShowsTheStartScreenWithoutAQuestion) {
-  OvtForm1& form = Open();
-  form.ExitCmd_Click();
-  EXPECT_EQ(screens_.shown, QStringList{u"start"_s});
-  EXPECT_TRUE(form.ClosingByCommand());
-  EXPECT_TRUE(form.QueryClose());
-  EXPECT_TRUE(dialogs_.questions.empty());
-  EXPECT_EQ(screens_.quit_status, std::nullopt);
-}
-
-TEST_F(OvtForm1States, EmployeesButtonOpensTheEmployeeScreenWithoutAQuestion) {
-  Store(StoredRow());
-  OvtForm1& form = Open();
-  form.QorInsert_Click();
-  EXPECT_EQ(screens_.shown, QStringList{u"lines common"_s});
-  EXPECT_TRUE(form.QueryClose());
-  EXPECT_TRUE(dialogs_.questions.empty());
-}
-
-TEST_F(OvtForm1States, CloseBoxAsksAndNoKeepsTheScreen) {
-  OvtForm1& form = Open();
-  dialogs_.answers = {false};
-  EXPECT_FALSE(form.QueryClose());
-  ASSERT_EQ(dialogs_.questions.size(), 1u);
-  EXPECT_EQ(dialogs_.questions[0].text, header_texts::kCloseQuestion);
-  EXPECT_EQ(dialogs_.questions[0].title, header_texts::kOvtForm1CloseTitle);
-  EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
-  EXPECT_EQ(screens_.quit_status, std::nullopt);
-}
-
-TEST_F(OvtForm1States, CloseBoxAndYesEndsTheProgram) {
-  OvtForm1& form = Open();
-  dialogs_.answers = {true};
-  EXPECT_TRUE(form.QueryClose());
-  EXPECT_EQ(dialogs_.questions.size(), 1u);
-  EXPECT_EQ(screens_.quit_status, 0);
-  EXPECT_TRUE(screens_.shown.isEmpty());
-}
-
-TEST_F(OvtForm1States, FileAndPrintoutButtonsSayTheyAreNotAvailableYet) {
-  Store(StoredRow());
-  OvtForm1& form = Open();
-  form.PrintCmd_Click();
-  form.PrintSumCmd_Click();
-  form.CreateFile_Click();
-  ASSERT_EQ(dialogs_.messages.size(), 3u);
-  for (const auto& message : dialogs_.messages) {
-    EXPECT_EQ(message.text, header_texts::kNotAvailable);
-    EXPECT_EQ(message.title, texts::kAppTitle);
+TEST_F(OvtForm1Screen, CloseBoxAsksAndYesEndsTheProgram) {
+  for (const bool yes : {false, true}) {
+    dialogs_.questions.clear();
+    dialogs_.answers = {yes};
+    EXPECT_EQ(Open().QueryClose(), yes);
+    QStringList asked;
+    for (const auto& question : dialogs_.questions) asked << question.title << question.text;
+    EXPECT_EQ(asked, (QStringList{kOvtForm1CloseTitle, kCloseQuestion}));
+    EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
+    EXPECT_EQ(screens_.quit_status, yes ? std::optional(0) : std::nullopt);
+    EXPECT_TRUE(screens_.shown.isEmpty());
   }
-  EXPECT_TRUE(screens_.shown.isEmpty());
 }
 
 }  // namespace

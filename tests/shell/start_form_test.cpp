@@ -1,14 +1,22 @@
-// The start screen: start-up, choosing a kind, leaving period entry and exit.
+// The start screen: opening the store beside the program once, and exit;
+// choosing a kind and leaving period entry; the checks of the typed period;
+// and which declaration OK opens: the stored one of the period, or a new one
+// that may take over the lines of the highest id of the kind.
 
 #include <gtest/gtest.h>
+#include <sqlcipher/sqlite3.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <functional>
 
+#include "shell/errors.h"
 #include "shell/start_form.h"
 #include "shell/texts.h"
 #include "store/rows.h"
+#include "store/schema.h"
+#include "store/store_file.h"
 #include "support/fakes.h"
 #include "support/store_rows.h"
 
@@ -16,157 +24,321 @@ namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace texts;
 
-const QStringList kCommonFields{u"Month1"_s, u"Year1"_s, u"Month2"_s, u"Year2"_s};
-const QStringList kConFields{u"ConMonth"_s, u"ConYear"_s};
 const QStringList kKindButtons{u"Command1"_s, u"Command2"_s, u"Command3"_s, u"Command4"_s,
                                u"Command5"_s};
+const QStringList kCommonFields{u"Month1"_s, u"Year1"_s, u"Month2"_s, u"Year2"_s};
+const QStringList kConFields{u"ConMonth"_s, u"ConYear"_s};
+const QStringList kFrameButtons{u"OkCmd"_s, u"CancelCmd"_s};
 
 class StartScreen : public ::testing::Test {
  protected:
-  // The controls of `names` that are in the focus order.
-  QStringList TabStops(const QStringList& names) const {
-    QStringList stops;
+  // The controls of `names` whose flag is set.
+  QStringList Where(bool Control::*flag, const QStringList& names) const {
+    QStringList found;
     for (const QString& name : names) {
-      if (form_.At(name).tab_stop) stops << name;
+      if (form_.At(name).*flag) found << name;
     }
-    return stops;
+    return found;
   }
-  QStringList Visible(const QStringList& names) const {
-    QStringList shown;
-    for (const QString& name : names) {
-      if (form_.At(name).visible) shown << name;
+  // The kind buttons, by [common][carry over].
+  static constexpr void (StartForm::*kKind[2][2])() = {
+      {&StartForm::Command2_Click, &StartForm::Command5_Click},
+      {&StartForm::Command1_Click, &StartForm::Command4_Click}};
+
+  // Presses the kind's button and types a period of one month of 2002.
+  void TypePeriod(bool common, bool carry_over, const QString& month) {
+    (form_.*kKind[common][carry_over])();
+    for (const QString& field : common ? kCommonFields : kConFields) {
+      form_.Type(field, field.contains(u"Month"_s) ? month : u"2002"_s);
     }
-    return shown;
   }
 
   testing::TempStore store_;
+  Vars& vars_ = store_.vars;
   testing::FakeDialogs dialogs_;
   testing::FakeScreens screens_;
-  StartForm form_{store_.vars, dialogs_, screens_};
+  StartForm form_{vars_, dialogs_, screens_};
 };
 
-TEST_F(StartScreen, LoadOpensTheStoreAndShowsTheVersionInTheTitle) {
+// The store beside the program is opened once, whatever happens to the file
+// afterwards, and closed by Exit.
+TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
   ASSERT_TRUE(form_.Load());
-  EXPECT_EQ(form_.Title(), texts::kTitleStart + texts::kTitleVersion +
-                               QString::number(VEROXIA_VERSION_MAJOR) + u'.' +
-                               QString::number(VEROXIA_VERSION_MINOR) + u')');
-  EXPECT_TRUE(form_.Title().startsWith(texts::kTitleStart + u"  ("_s))
-      << form_.Title().toStdString();
-  EXPECT_TRUE(store_.vars.StoreOpen);
-  ASSERT_NE(store_.vars.StoreConnection, nullptr);
-  EXPECT_TRUE(dialogs_.messages.empty());
-  ASSERT_FALSE(dialogs_.busy_calls.empty());
-  EXPECT_FALSE(dialogs_.busy_calls.back());
-  EXPECT_EQ(screens_.quit_status, std::nullopt);
+  EXPECT_EQ(form_.Title(), kTitleStart + kTitleVersion + QString::number(VEROXIA_VERSION_MAJOR) +
+                               u'.' + QString::number(VEROXIA_VERSION_MINOR) + u')');
+  EXPECT_TRUE(vars_.StoreOpen);
+  const Database* first = vars_.StoreConnection.get();
+  ASSERT_NE(first, nullptr);
+  EXPECT_FALSE(dialogs_.busy_calls.empty());
+  EXPECT_FALSE(dialogs_.busy);
   EXPECT_FALSE(form_.At(u"Frame1"_s).visible);
-  EXPECT_EQ(Visible(kKindButtons), kKindButtons);
+  EXPECT_EQ(Where(&Control::visible, kKindButtons), kKindButtons);
   EXPECT_TRUE(form_.ImagePath().isEmpty());
   EXPECT_TRUE(form_.IconPath().isEmpty());
-}
 
-TEST_F(StartScreen, LoadPicksUpThePicturesBesideTheProgram) {
+  const QDir dir(store_.Dir());
   for (const char* name : {"ovt.gif", "qormain.ico"}) {
-    QFile file(QDir(store_.Dir()).filePath(QString::fromLatin1(name)));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("GIF89a");
+    ASSERT_TRUE(QFile(dir.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly));
   }
-  ASSERT_TRUE(form_.Load());
-  EXPECT_EQ(QFileInfo(form_.ImagePath()), QFileInfo(QDir(store_.Dir()).filePath(u"ovt.gif"_s)));
-  EXPECT_EQ(QFileInfo(form_.IconPath()), QFileInfo(QDir(store_.Dir()).filePath(u"qormain.ico"_s)));
-}
-
-TEST_F(StartScreen, LoadingAgainReusesTheOpenStore) {
-  ASSERT_TRUE(form_.Load());
-  const Database* first = store_.vars.StoreConnection.get();
-  StartForm again(store_.vars, dialogs_, screens_);
+  ASSERT_TRUE(QFile::remove(store_.Path()));
+  StartForm again(vars_, dialogs_, screens_);
   ASSERT_TRUE(again.Load());
-  EXPECT_EQ(store_.vars.StoreConnection.get(), first);
-}
-
-TEST_F(StartScreen, MissingStoreEndsTheProgramAfterOneMessage) {
-  testing::TempStore empty(false);
-  StartForm form(empty.vars, dialogs_, screens_);
-  EXPECT_FALSE(form.Load());
-  EXPECT_EQ(screens_.quit_status, 1);
-  ASSERT_EQ(dialogs_.messages.size(), 1u);
-  EXPECT_EQ(dialogs_.messages[0].text, texts::kStoreMissing);
-  EXPECT_TRUE(screens_.shown.isEmpty());
-}
-
-TEST_F(StartScreen, CommonKindOffersTheStartAndEndFields) {
-  ASSERT_TRUE(form_.Load());
-  form_.Command4_Click();
-  EXPECT_EQ(form_.HeaderTable(), u"QOR_EMPLOYERS"_s);
-  EXPECT_TRUE(store_.vars.CarryOver);
-  EXPECT_TRUE(Visible(kKindButtons).isEmpty());
-  EXPECT_TRUE(form_.At(u"Frame1"_s).visible);
-  EXPECT_FALSE(form_.At(u"Frame2"_s).visible);
-  EXPECT_EQ(form_.FocusedField(), u"Month1"_s);
-  EXPECT_EQ(TabStops(kKindButtons), (QStringList{u"Command4"_s, u"Command5"_s}));
-  EXPECT_EQ(TabStops(kCommonFields + kConFields), kCommonFields);
-  EXPECT_EQ(TabStops({u"OkCmd"_s, u"CancelCmd"_s}).size(), 2);
-}
-
-TEST_F(StartScreen, ConstructionKindOffersTheWorkPeriodFields) {
-  ASSERT_TRUE(form_.Load());
-  form_.Command2_Click();
-  EXPECT_EQ(form_.HeaderTable(), u"QOR_CON_EMPLOYERS"_s);
-  EXPECT_FALSE(store_.vars.CarryOver);
-  EXPECT_TRUE(form_.At(u"Frame1"_s).visible);
-  EXPECT_TRUE(form_.At(u"Frame2"_s).visible);
-  EXPECT_EQ(form_.FocusedField(), u"ConMonth"_s);
-  EXPECT_EQ(TabStops(kCommonFields + kConFields), kConFields);
-  EXPECT_EQ(TabStops({u"OkCmd"_s, u"CancelCmd"_s}).size(), 2);
-}
-
-TEST_F(StartScreen, CancelKeepsTheTypedPeriodAndTheCarryOverChoice) {
-  ASSERT_TRUE(form_.Load());
-  form_.Command5_Click();
-  form_.Type(u"ConMonth"_s, u"07"_s);
-  form_.Type(u"ConYear"_s, u"2004"_s);
-  form_.CancelCmd_Click();
-  EXPECT_FALSE(form_.At(u"Frame1"_s).visible);
-  EXPECT_EQ(Visible(kKindButtons), kKindButtons);
-  EXPECT_TRUE(store_.vars.CarryOver);
-  EXPECT_EQ(TabStops({u"Command1"_s, u"Command2"_s, u"Command3"_s}).size(), 3);
-  EXPECT_TRUE(
-      TabStops(kCommonFields + kConFields + QStringList{u"OkCmd"_s, u"CancelCmd"_s}).isEmpty());
-
-  form_.Command1_Click();
-  EXPECT_FALSE(form_.At(u"Frame2"_s).visible);
-  EXPECT_EQ(form_.FocusedField(), u"Month1"_s);
-  form_.Command2_Click();
-  EXPECT_EQ(form_.Text(u"ConMonth"_s), u"07"_s);
-  EXPECT_EQ(form_.SelectionOf(u"ConMonth"_s).value_or(Selection{}).length, 2);  // typed over
-  EXPECT_EQ(form_.Text(u"ConYear"_s), u"2004"_s);
-}
-
-TEST_F(StartScreen, PlainButtonAfterCancelDropsTheCarryOver) {
-  ASSERT_TRUE(form_.Load());
-  InsertRow(*store_.vars.StoreConnection,
-            testing::SampleEmployer(3, {u"01"_s, u"2002"_s, u"01"_s, u"2002"_s}));
-  form_.Command4_Click();
-  form_.CancelCmd_Click();
-  form_.Command1_Click();
-  EXPECT_FALSE(store_.vars.CarryOver);
-  for (const QString& field : kCommonFields) {
-    form_.Type(field, field.startsWith(u"Month") ? u"02"_s : u"2002"_s);
-  }
-  form_.OkCmd_Click();
+  EXPECT_EQ(vars_.StoreConnection.get(), first);
+  EXPECT_EQ(QFileInfo(again.ImagePath()), QFileInfo(dir.filePath(u"ovt.gif"_s)));
+  EXPECT_EQ(QFileInfo(again.IconPath()), QFileInfo(dir.filePath(u"qormain.ico"_s)));
   EXPECT_TRUE(dialogs_.messages.empty());
-  EXPECT_FALSE(store_.vars.CarryOver);
-  EXPECT_EQ(store_.vars.DeclarationId, 4);
-  EXPECT_EQ(screens_.shown, QStringList{u"header common"_s});
-}
+  EXPECT_EQ(screens_.quit_status, std::nullopt);
 
-TEST_F(StartScreen, ExitClosesTheStoreAndEndsTheProgram) {
-  ASSERT_TRUE(form_.Load());
-  form_.Command3_Click();
-  EXPECT_FALSE(store_.vars.StoreOpen);
-  EXPECT_EQ(store_.vars.StoreConnection, nullptr);
+  again.Command3_Click();
+  EXPECT_FALSE(vars_.StoreOpen);
+  EXPECT_EQ(vars_.StoreConnection, nullptr);
   EXPECT_EQ(screens_.quit_status, 0);
 }
+
+// A store that cannot be used is told once, stays closed, and the program
+// ends before anything is shown.
+TEST(StartScreenStore, UnusableStoreEndsTheProgram) {
+  const QString critical = kStoreCritical + u'\r' + kErrorCode;
+  const struct {
+    const char* name;
+    std::function<void(const QString& path)> make;
+    QString message;
+  } cases[] = {
+      {"Missing", [](const QString&) {}, kStoreMissing},
+      {"WrongPassword", [](const QString& path) { CreateStore(path, u"another password"_s); },
+       critical + u"26\r"_s + kStoreNotADatabase},
+      {"NoTables",
+       [](const QString& path) {
+         CreateStore(path, StorePassword());
+         Database::Open(path, StorePassword())->Exec("DROP TABLE QOR_TEMP_EMPLOYEES");
+       },
+       critical + u"1\rno such table: QOR_TEMP_EMPLOYEES"_s},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    testing::TempStore store(false);
+    testing::FakeDialogs dialogs;
+    testing::FakeScreens screens;
+    c.make(store.Path());
+    EXPECT_FALSE(StartForm(store.vars, dialogs, screens).Load());
+    EXPECT_FALSE(store.vars.StoreOpen);
+    EXPECT_EQ(store.vars.StoreConnection, nullptr);
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_EQ(dialogs.messages[0].title, kAppTitle);
+    EXPECT_EQ(dialogs.messages[0].text, c.message);
+    EXPECT_EQ(screens.quit_status, 1);
+    EXPECT_TRUE(screens.shown.isEmpty());
+  }
+}
+
+// A kind button opens the period fields of its kind in the focus order;
+// Cancel brings the kind buttons back and keeps what was typed and chosen.
+TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
+  ASSERT_TRUE(form_.Load());
+  const QStringList all = kKindButtons + kCommonFields + kConFields + kFrameButtons;
+  for (const bool common : {true, false}) {
+    for (const bool carry_over : {true, false}) {
+      SCOPED_TRACE(::testing::Message() << common << carry_over);
+      (form_.*kKind[common][carry_over])();
+      const QStringList& fields = common ? kCommonFields : kConFields;
+      EXPECT_EQ(vars_.CarryOver, carry_over);
+      EXPECT_TRUE(Where(&Control::visible, kKindButtons).isEmpty());
+      EXPECT_TRUE(form_.At(u"Frame1"_s).visible);
+      EXPECT_EQ(form_.At(u"Frame2"_s).visible, !common);
+      EXPECT_EQ(form_.FocusedField(), fields[0]);
+      EXPECT_EQ(Where(&Control::tab_stop, all),
+                (QStringList{u"Command4"_s, u"Command5"_s} + fields + kFrameButtons));
+      EXPECT_EQ(form_.Text(fields[0]), carry_over ? QString() : u"07"_s);  // kept from before
+      EXPECT_EQ(form_.SelectionOf(fields[0]).value_or(Selection{}).length,
+                form_.Text(fields[0]).size());  // typed over
+      form_.Type(fields[0], u"07"_s);
+
+      form_.CancelCmd_Click();
+      EXPECT_FALSE(form_.At(u"Frame1"_s).visible);
+      EXPECT_EQ(Where(&Control::visible, kKindButtons), kKindButtons);
+      EXPECT_EQ(Where(&Control::tab_stop, all), kKindButtons);
+      EXPECT_EQ(vars_.CarryOver, carry_over);
+    }
+  }
+}
+
+struct PeriodCase {
+  const char* name;
+  QStringList typed;  // Month1, Year1, Month2, Year2; or ConMonth, ConYear
+  const char* field;  // the field at fault; nullptr when the period is accepted
+  const QString* message = nullptr;
+  int select = 0;  // characters selected in the field, as many as it holds; 0: focus only
+};
+
+// clang-format off
+const PeriodCase kPeriodCases[] = {
+    // 1 to 3: start month blank, shorter than two characters, not 1 to 12.
+    {"StartMonthBlanks", {"  ", "2002", "01", "2002"}, "Month1", &kStartMonthBlank},
+    {"StartMonthOneDigit", {"5", "2002", "05", "2002"}, "Month1", &kStartMonthLength, 2},
+    {"StartMonth13", {"13", "2002", "12", "2002"}, "Month1", &kStartMonthWrong, 2},
+    {"StartMonth00", {"00", "2002", "01", "2002"}, "Month1", &kStartMonthWrong, 2},
+    {"StartMonthDigitLetter", {"1a", "", "", ""}, "Month1", &kStartMonthWrong, 2},
+    // 4 to 6: start year blank, not a number (tried before its length), short.
+    {"StartYearBlanks", {"01", "    ", "01", "2002"}, "Year1", &kStartYearBlank},
+    {"StartYearTwoLetters", {"01", "ab", "01", "2002"}, "Year1", &kStartYearNumeric, 4},
+    {"StartYearThreeDigits", {"01", "200", "01", "2002"}, "Year1", &kStartYearLength, 4},
+    // 7 to 12: the same for the end month and year.
+    {"EndMonthBlank", {"01", "2002", "", "2002"}, "Month2", &kEndMonthBlank},
+    {"EndMonthOneDigit", {"01", "2002", "6", "2002"}, "Month2", &kEndMonthLength, 2},
+    {"EndMonth13", {"01", "2002", "13", "2002"}, "Month2", &kEndMonthWrong, 2},
+    {"EndYearBlank", {"01", "2002", "01", ""}, "Year2", &kEndYearBlank},
+    {"EndYearLetters", {"01", "2002", "01", "2oo2"}, "Year2", &kEndYearNumeric, 4},
+    {"EndYearThreeDigits", {"01", "2002", "01", "200"}, "Year2", &kEndYearLength, 4},
+    // 13: the period stays within one year.
+    {"EndYearLater", {"10", "2002", "12", "2003"}, "Year2", &kEndYearDiffers, 4},
+    // 14: a period of more than one month starts a quarter.
+    {"FebToApr", {"02", "2002", "04", "2002"}, "Month1", &kStartMonthNotQuarter, 2},
+    // 15: and ends two months later.
+    {"TwoMonths", {"01", "2002", "02", "2002"}, "Month2", &kEndMonthNotQuarter, 2},
+    {"FourMonths", {"01", "2002", "04", "2002"}, "Month2", &kEndMonthNotQuarter, 2},
+    // Accepted: one month, or one calendar quarter.
+    {"December", {"12", "2002", "12", "2002"}, nullptr},
+    {"FirstQuarter", {"01", "2002", "03", "2002"}, nullptr},
+    {"SecondQuarter", {"04", "2002", "06", "2002"}, nullptr},
+    {"ThirdQuarter", {"07", "2002", "09", "2002"}, nullptr},
+    {"FourthQuarter", {"10", "2002", "12", "2002"}, nullptr},
+    {"MonthWithLeadingBlank", {" 5", "2002", " 5", "2002"}, nullptr},
+    {"QuarterWithLeadingBlank", {" 4", "2002", "06", "2002"}, nullptr},
+    {"YearWithTrailingBlank", {"01", "200 ", "01", "200 "}, nullptr},
+    // The construction kind: a work month and year.
+    {"ConMonthBlank", {"", "2002"}, "ConMonth", &kStartMonthBlank},
+    {"ConMonthOneDigit", {"5", ""}, "ConMonth", &kStartMonthLength, 2},
+    {"ConMonth13", {"13", "2002"}, "ConMonth", &kStartMonthWrong, 2},
+    {"ConYearBlanks", {"01", "    "}, "ConYear", &kConYearBlank},
+    {"ConYearLetter", {"01", "20x2"}, "ConYear", &kConYearNumeric, 4},
+    {"ConYearThreeDigits", {"01", "200"}, "ConYear", &kConYearLength, 4},
+    {"ConMay", {"05", "2002"}, nullptr},
+    {"ConAnyYear", {"12", "0000"}, nullptr},
+};
+// clang-format on
+
+// The rules of the period in their order, as OK applies them: a fault is told
+// once on its field and nothing is looked up; an accepted period opens the
+// header of its kind.
+TEST_F(StartScreen, OkChecksThePeriodRuleByRule) {
+  ASSERT_TRUE(form_.Load());
+  for (const PeriodCase& c : kPeriodCases) {
+    SCOPED_TRACE(c.name);
+    dialogs_.messages.clear();
+    dialogs_.busy_calls.clear();
+    screens_.shown.clear();
+    vars_.DeclarationId = 77;
+    const bool common = c.typed.size() == 4;
+    const QStringList& fields = common ? kCommonFields : kConFields;
+    (form_.*kKind[common][false])();
+    for (qsizetype i = 0; i < fields.size(); ++i) form_.Type(fields[i], c.typed[i]);
+    form_.FocusMovedTo(u"OkCmd"_s);
+    form_.OkCmd_Click();
+    if (c.field == nullptr) {
+      EXPECT_TRUE(dialogs_.messages.empty()) << dialogs_.LastMessage().toStdString();
+      EXPECT_EQ(screens_.shown,
+                QStringList{common ? u"header common"_s : u"header construction"_s});
+      continue;
+    }
+    QStringList told;
+    for (const auto& shown : dialogs_.messages) told << shown.title << shown.text;
+    EXPECT_EQ(told, (QStringList{kAppTitle, *c.message}));
+    const QString field = QString::fromLatin1(c.field);
+    EXPECT_EQ(form_.FocusedField(), field);
+    const auto selection = form_.SelectionOf(field);
+    const int length = std::min(c.select, static_cast<int>(form_.Text(field).size()));
+    EXPECT_EQ(selection ? selection->length : -1, c.select > 0 ? length : -1);
+    EXPECT_TRUE(dialogs_.busy_calls.empty());
+    EXPECT_TRUE(screens_.shown.isEmpty());
+    EXPECT_EQ(vars_.DeclarationId, 77);
+  }
+}
+
+struct SettleCase {
+  const char* name;
+  std::vector<std::pair<int, const char*>> stored;  // headers of the kind: id, month of 2002
+  bool carry_over;
+  QString month;        // typed, of 2002
+  QString message;      // told, if anything
+  int id;               // the declaration opened; 99 (as before): none
+  bool carried;         // it takes over the lines of id - 1
+  bool broken = false;  // the kind's header table is gone
+};
+
+// clang-format off
+const SettleCase kSettleCases[] = {
+    {"FirstOfTheKind", {}, false, u"01"_s, {}, 1, false},
+    {"CarryOverWithNothingStored", {}, true, u"01"_s, kNoPreviousDeclaration, 1, false},
+    {"NewPeriodTakesOverTheHighestId", {{1, "12"}, {5, "01"}, {2, "03"}}, true, u"04"_s, {}, 6, true},
+    {"NewPeriodGetsTheHighestIdPlusOne", {{9, "01"}, {10, "02"}, {2, "03"}}, false, u"04"_s, {}, 11, false},
+    {"StoredPeriodOpensSilently", {{1, "04"}, {2, "05"}, {5, "06"}}, false, u"05"_s, {}, 2, false},
+    {"StoredPeriodWithCarryOverIsTold", {{2, "05"}, {5, "06"}}, true, u"05"_s, kDeclarationFound, 2, false},
+    {"MonthIsComparedAsTypedText", {{3, "4"}}, false, u"04"_s, {}, 4, false},
+    {"MonthWithALeadingBlank", {}, false, u" 5"_s, {}, 1, false},
+    {"NoNewIdAfter32767", {{32767, "01"}}, false, u"02"_s, kNoIdLeft, 99, false},
+    {"NoNewIdToTakeOverAfter32767", {{32767, "01"}}, true, u"02"_s, kNoIdLeft, 99, false},
+    {"StoredPeriodOf32767", {{32767, "01"}}, false, u"01"_s, {}, 32767, false},
+    {"StoreError", {}, false, u"01"_s, {}, 99, false, true},
+};
+// clang-format on
+
+void PrintTo(const SettleCase& c, std::ostream* out) { *out << c.name; }
+
+class Registry : public StartScreen,
+                 public ::testing::WithParamInterface<std::tuple<Kind, SettleCase>> {};
+
+// Both kinds settle the same way, each on its own headers only.
+TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
+  const auto& [kind, c] = GetParam();
+  const bool common = kind == Kind::Common;
+  Database& db = store_.Open();
+  const auto store = [&](bool common_kind, int id, const QString& month) {
+    const PeriodTexts period{month, u"2002"_s, month, u"2002"_s};
+    common_kind ? InsertRow(db, testing::SampleHeader<EmployerRow>(id, period))
+                : InsertRow(db, testing::SampleHeader<ConEmployerRow>(id, period));
+  };
+  store(!common, 7, u"04"_s);
+  for (const auto& [id, month] : c.stored) store(common, id, QString::fromLatin1(month));
+  if (c.broken) db.Exec(common ? "DROP TABLE QOR_EMPLOYERS" : "DROP TABLE QOR_CON_EMPLOYERS");
+  ASSERT_TRUE(form_.Load());
+  dialogs_.busy_calls.clear();
+  vars_.DeclarationId = 99;
+  vars_.PreviousDeclarationId = 98;
+  vars_.PeriodFrom = vars_.PeriodTo = u"left"_s;
+
+  TypePeriod(common, c.carry_over, c.month);
+  form_.OkCmd_Click();
+
+  const QString message =
+      c.broken ? ErrorMessage(kRegistryFailed, {1, u"no such table: "_s + TablesOf(kind).header})
+               : c.message;
+  QStringList told;
+  for (const auto& shown : dialogs_.messages) told << shown.title << shown.text;
+  EXPECT_EQ(told, (message.isEmpty() ? QStringList() : QStringList{kAppTitle, message}));
+  const bool opened = c.id != 99;
+  EXPECT_EQ(vars_.DeclarationId, c.id);
+  EXPECT_EQ(vars_.CarryOver, opened ? c.carried : c.carry_over);
+  EXPECT_EQ(vars_.PreviousDeclarationId, c.carried ? c.id - 1 : 98);
+  const QString period = opened ? c.month + u"2002"_s : u"left"_s;
+  EXPECT_EQ(vars_.PeriodFrom, period);
+  EXPECT_EQ(vars_.PeriodTo, common ? period : u"left"_s);
+  EXPECT_EQ(screens_.shown,
+            (opened ? QStringList{common ? u"header common"_s : u"header construction"_s}
+                    : QStringList()));
+  EXPECT_EQ(dialogs_.busy_calls, (std::vector<bool>{true, false}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, Registry,
+                         ::testing::Combine(::testing::Values(Kind::Common, Kind::Construction),
+                                            ::testing::ValuesIn(kSettleCases)),
+                         [](const auto& info) {
+                           return std::string(std::get<0>(info.param) == Kind::Common
+                                                  ? "Common"
+                                                  : "Construction") +
+                                  std::get<1>(info.param).name;
+                         });
 
 }  // namespace
 }  // namespace veroxia

@@ -1,8 +1,9 @@
-// The registry's look-ups and the carry-over's statements, one by one.
+// Lines written and read back, and the statements of the registry and the
+// carry-over that the screens cannot tell apart.
 
 #include <gtest/gtest.h>
 
-#include "rules/texts.h"
+#include "shell/texts.h"
 #include "store/declarations.h"
 #include "store/rows.h"
 #include "support/fakes.h"
@@ -13,63 +14,82 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::DumpTable;
-using testing::SampleConEmployee;
-using testing::SampleConEmployer;
-using testing::SampleEmployee;
-using testing::SampleEmployer;
+using testing::Sample;
+using testing::SampleLine;
+using testing::ValuesOf;
 
 class Declarations : public ::testing::Test {
  protected:
+  template <class Row>
+  std::vector<Row> Lines(int id) {
+    const Kind kind = std::is_same_v<Row, EmployeeRow> ? Kind::Common : Kind::Construction;
+    return SelectLines<Row>(db_, TablesOf(kind).lines, TablesOf(kind).order, id);
+  }
+
   testing::TempStore store_;
   Database& db_ = store_.Open();
 };
 
-TEST_F(Declarations, EmptyHeaderTableHasNullHighestIdReadAsZero) {
-  for (Kind kind : {Kind::Common, Kind::Construction}) {
-    const Text highest = MaxId(db_, kind);
-    EXPECT_EQ(highest, std::nullopt);
-    EXPECT_EQ(FieldNumber(highest), u"0"_s);
+// Null stays apart from the empty text; quotes and other signs are data.
+TEST_F(Declarations, RowsAreReadBackExactly) {
+  const Text values[] = {
+      std::nullopt,     u""_s,    u"O'BRIEN"_s, u"''"_s,
+      u"\"ΝΙΚΟΣ\""_s,   u"50%"_s, u"a;b"_s,     u"x'); DELETE FROM QOR_EMPLOYEES; --"_s,
+      texts::kCommand5, u"\\"_s};
+  std::vector<EmployeeRow> lines;
+  for (const Text& value : values) {
+    const int row_num = static_cast<int>(lines.size()) + 1;
+    auto line = SampleLine<EmployeeRow>(1, row_num, QString::number(100 + row_num));
+    line.surname = line.daily_wages = value;
+    ASSERT_EQ(InsertRow(db_, line), 1);
+    lines.push_back(line);
   }
+  EXPECT_EQ(ValuesOf(Lines<EmployeeRow>(1)), ValuesOf(lines));
 }
 
-TEST_F(Declarations, HighestIdIsNumericAndKeptPerKind) {
-  for (int id : {9, 10, 2})
-    InsertRow(db_, SampleEmployer(id, {u"01"_s, u"2002"_s, u"01"_s, u"2002"_s}));
-  InsertRow(db_, SampleConEmployer(3, u"01"_s, u"2002"_s));
-  EXPECT_EQ(MaxId(db_, Kind::Common), u"10"_s);
-  EXPECT_EQ(MaxId(db_, Kind::Construction), u"3"_s);
+// Common lines read by register number as text, then surname, pay month and
+// wage type; construction lines the same without the pay month.
+TEST_F(Declarations, LinesReadInTheirTextOrderNotByRowNumber) {
+  // register number, surname, pay month, wage type
+  const char16_t* stored[][4] = {
+      {u"98765432", u"A", u"01", u"01"}, {u"5", u"B", u"01", u"01"},
+      {u"5", u"A", u"02", u"00"},        {u"5", u"A", u"01", u"02"},
+      {u"5", u"A", u"01", u"01"},        {u"123456789", u"Z", u"9", u"9"}};
+  int row_num = 0;
+  for (const auto& s : stored) {
+    auto line = SampleLine<EmployeeRow>(3, ++row_num, QString::fromUtf16(s[0]));
+    auto con = SampleLine<ConEmployeeRow>(3, row_num, QString::fromUtf16(s[0]));
+    con.surname = line.surname = QString::fromUtf16(s[1]);
+    line.sal_month = QString::fromUtf16(s[2]);
+    con.wage_code = line.wage_code = QString::fromUtf16(s[3]);
+    InsertRow(db_, line);
+    InsertRow(db_, con);
+  }
+  InsertRow(db_, SampleLine<EmployeeRow>(4, 1, u"0"_s));
+  const auto order = [](const auto& lines) {
+    std::vector<int> rows;
+    for (const auto& line : lines) rows.push_back(line.row_num);
+    return rows;
+  };
+  EXPECT_EQ(order(Lines<EmployeeRow>(3)), (std::vector<int>{6, 5, 4, 3, 2, 1}));
+  EXPECT_EQ(order(Lines<ConEmployeeRow>(3)), (std::vector<int>{6, 3, 5, 4, 2, 1}));
 }
 
+// A common period is found by the exact texts of its four fields; a quote in
+// them is data.
 TEST_F(Declarations, PeriodLookUpComparesExactTexts) {
-  InsertRow(db_, SampleEmployer(1, {u"4"_s, u"2002"_s, u"6"_s, u"2002"_s}));
-  InsertRow(db_, SampleEmployer(2, {u"04"_s, u"2002"_s, u"06"_s, u"2002"_s}));
-  InsertRow(db_, SampleEmployer(3, {u" 5"_s, u"2002"_s, u" 5"_s, u"2002"_s}));
-  InsertRow(db_, SampleConEmployer(7, u"04"_s, u"2002"_s));
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u"04"_s, u"2002"_s, u"06"_s, u"2002"_s}),
-            Text(u"2"_s));
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u"4"_s, u"2002"_s, u"6"_s, u"2002"_s}),
-            Text(u"1"_s));
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u" 5"_s, u"2002"_s, u" 5"_s, u"2002"_s}),
-            Text(u"3"_s));
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u"05"_s, u"2002"_s, u"05"_s, u"2002"_s}),
-            std::nullopt);
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u"04"_s, u"2002"_s, u"05"_s, u"2002"_s}),
-            std::nullopt);
-  EXPECT_EQ(FindDeclaration(db_, Kind::Construction, {u"04"_s, u"2002"_s, {}, {}}), Text(u"7"_s));
-  EXPECT_EQ(FindDeclaration(db_, Kind::Construction, {u"4"_s, u"2002"_s, {}, {}}), std::nullopt);
-}
-
-TEST_F(Declarations, QuoteInAPeriodIsDataAndMatchesNothingElse) {
-  InsertRow(db_, SampleEmployer(1, {u"01"_s, u"2002"_s, u"01"_s, u"2002"_s}));
-  InsertRow(db_, SampleEmployer(2, {u"'"_s, u"20'2"_s, u"'"_s, u"2002"_s}));
-  InsertRow(db_, SampleConEmployer(1, u"01"_s, u"2002"_s));
+  const PeriodTexts stored[] = {{u"4"_s, u"2002"_s, u"6"_s, u"2002"_s},
+                                {u"04"_s, u"2002"_s, u"06"_s, u"2002"_s},
+                                {u"'"_s, u"20'2"_s, u"'"_s, u"2002"_s}};
+  for (int id = 1; id <= 3; ++id) {
+    InsertRow(db_, testing::SampleHeader<EmployerRow>(id, stored[id - 1]));
+    EXPECT_EQ(FindDeclaration(db_, Kind::Common, stored[id - 1]), Text(QString::number(id)));
+  }
   const QString injected = u"01' OR '1'='1"_s;
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {injected, injected, injected, injected}),
-            std::nullopt);
-  EXPECT_EQ(FindDeclaration(db_, Kind::Construction, {injected, u"2002"_s, {}, {}}), std::nullopt);
-  EXPECT_EQ(FindDeclaration(db_, Kind::Common, {u"'"_s, u"20'2"_s, u"'"_s, u"2002"_s}),
-            Text(u"2"_s));
-  EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYERS").size(), 2u);
+  for (const PeriodTexts& period : {PeriodTexts{u"04"_s, u"2002"_s, u"05"_s, u"2002"_s},
+                                    PeriodTexts{injected, injected, injected, injected}}) {
+    EXPECT_EQ(FindDeclaration(db_, Kind::Common, period), std::nullopt);
+  }
 }
 
 TEST_F(Declarations, DailyWageFixTakesAndBeforeOr) {
@@ -82,45 +102,20 @@ TEST_F(Declarations, DailyWageFixTakesAndBeforeOr) {
       {5, std::nullopt, u"0"_s}, {5, u""_s, u"0"_s}, {5, u"12,50"_s, u"12,50"_s},
       {3, std::nullopt, u"0"_s}, {3, u""_s, u""_s},  {6, u" "_s, u" "_s},
   };
-  int row_num = 0;
+  std::vector<EmployeeRow> lines;
   for (const auto& c : cases) {
-    ++row_num;
-    auto line = SampleEmployee(c.id, row_num, QString::number(row_num));
-    line.daily_wages = c.before;
-    InsertRow(db_, line);
+    lines.push_back(Sample<EmployeeRow>(c.id, static_cast<int>(lines.size())));
+    lines.back().daily_wages = c.before;
+    InsertRow(db_, lines.back());
   }
-  auto con = SampleConEmployee(5, 1, u"1"_s);
+  auto con = Sample<ConEmployeeRow>(5, 1);
   con.daily_wages = std::nullopt;
   InsertRow(db_, con);
 
   EXPECT_EQ(FixDailyWages(db_, 5), 3);
-  const auto lines = DumpTable(db_, "QOR_EMPLOYEES");
-  ASSERT_EQ(lines.size(), std::size(cases));
-  for (size_t i = 0; i < lines.size(); ++i) {
-    SCOPED_TRACE(i);
-    EXPECT_EQ(lines[i][24], cases[i].after);
-  }
-  EXPECT_EQ(DumpTable(db_, "QOR_CON_EMPLOYEES")[0][21], std::nullopt);
-}
-
-TEST_F(Declarations, CopyMoveAndInsertAnswerTheRowsTheyChange) {
-  for (int row = 1; row <= 3; ++row) InsertRow(db_, SampleEmployee(5, row, QString::number(row)));
-  InsertRow(db_, SampleEmployee(4, 1, u"9"_s));
-  EXPECT_EQ(CountLines(db_, Kind::Common, 5), 3);
-  EXPECT_EQ(CopyLinesToScratch(db_, Kind::Common, 9), 0);
-  EXPECT_EQ(CopyLinesToScratch(db_, Kind::Common, 5), 3);
-  EXPECT_EQ(DumpTable(db_, "QOR_TEMP_EMPLOYEES").size(), 3u);
-  EXPECT_EQ(MoveScratchToNextId(db_, Kind::Common), 3);
-  EXPECT_EQ(InsertLinesFromScratch(db_, Kind::Common), 3);
-  EXPECT_EQ(CountLines(db_, Kind::Common, 6), 3);
-  ClearScratch(db_, Kind::Common);
-  EXPECT_TRUE(DumpTable(db_, "QOR_TEMP_EMPLOYEES").empty());
-  EXPECT_EQ(CountLines(db_, Kind::Construction, 5), 0);
-
-  InsertRow(db_, SampleConEmployee(2, 1, u"1"_s));
-  EXPECT_EQ(CopyLinesToScratch(db_, Kind::Construction, 2), 1);
-  EXPECT_EQ(DumpTable(db_, "QOR_CON_TEMP_EMPLOYEES").size(), 1u);
-  EXPECT_TRUE(DumpTable(db_, "QOR_TEMP_EMPLOYEES").empty());
+  for (size_t i = 0; i < lines.size(); ++i) lines[i].daily_wages = cases[i].after;
+  EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYEES"), ValuesOf(lines));
+  EXPECT_EQ(Lines<ConEmployeeRow>(5)[0].daily_wages, std::nullopt);
 }
 
 }  // namespace

@@ -10,6 +10,8 @@
 
 #include "shell/ports.h"
 #include "shell/vars.h"
+#include "store/schema.h"
+#include "store/store_file.h"
 
 namespace veroxia::testing {
 
@@ -59,15 +61,12 @@ class FakeDialogs : public Dialogs {
 class FakeScreens : public Screens {
  public:
   void ShowStart() override { shown << QStringLiteral("start"); }
-  void ShowHeader(Kind kind) override {
-    shown << (kind == Kind::Common ? QStringLiteral("header common")
-                                   : QStringLiteral("header construction"));
-  }
-  void ShowLines(Kind kind) override {
-    shown << (kind == Kind::Common ? QStringLiteral("lines common")
-                                   : QStringLiteral("lines construction"));
-  }
+  void ShowHeader(Kind kind) override { shown << QStringLiteral("header ") + Name(kind); }
+  void ShowLines(Kind kind) override { shown << QStringLiteral("lines ") + Name(kind); }
   void Quit(int status) override { quit_status = status; }
+  static QString Name(Kind kind) {
+    return kind == Kind::Common ? QStringLiteral("common") : QStringLiteral("construction");
+  }
 
   QStringList shown;
   std::optional<int> quit_status;
@@ -76,12 +75,20 @@ class FakeScreens : public Screens {
 // A fresh directory holding an empty store, and Vars pointing at it.
 class TempStore {
  public:
-  TempStore();  // creates the store file
-  explicit TempStore(bool create);
+  explicit TempStore(bool create = true) {  // false: no store file
+    vars.AppDir = dir_.path();
+    if (create) CreateStore(Path(), StorePassword());
+  }
   QString Dir() const { return dir_.path(); }
-  QString Path() const;
+  QString Path() const { return StorePath(dir_.path()); }
   // Opens the store into vars (as the start screen would).
-  Database& Open();
+  Database& Open() {
+    if (!vars.StoreConnection) {
+      vars.StoreConnection = Database::Open(Path(), StorePassword());
+      vars.StoreOpen = true;
+    }
+    return *vars.StoreConnection;
+  }
 
   Vars vars;
 

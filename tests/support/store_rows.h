@@ -12,12 +12,39 @@
 
 namespace veroxia::testing {
 
-// Lines and headers whose every text column holds a value of its own
+// A row whose every text column holds a value of its own
 // ("<column> <id>.<row>"), so that a column lost, shifted or swapped shows.
-EmployeeRow SampleEmployee(int id, int row_num, const QString& insured_id);
-ConEmployeeRow SampleConEmployee(int id, int row_num, const QString& insured_id);
-EmployerRow SampleEmployer(int id, const PeriodTexts& period);
-ConEmployerRow SampleConEmployer(int id, const QString& month, const QString& year);
+template <class Row>
+Row Sample(int id, int row_num = 0) {
+  Row row;
+  row.id = id;
+  if constexpr (LineRow<Row>) row.row_num = row_num;
+  ForEachText(row, [&](const char* column, Text& value) {
+    value = QStringLiteral("%1 %2.%3").arg(QString::fromLatin1(column)).arg(id).arg(row_num);
+  });
+  return row;
+}
+
+// A line of the given register number.
+template <class Row>
+Row SampleLine(int id, int row_num, const QString& insured_id) {
+  Row row = Sample<Row>(id, row_num);
+  row.insured_id = insured_id;
+  return row;
+}
+
+// A header of the given period; a construction header keeps its start only.
+template <class Row>
+Row SampleHeader(int id, const PeriodTexts& period) {
+  Row row = Sample<Row>(id);
+  row.from_month = period.from_month;
+  row.from_year = period.from_year;
+  if constexpr (requires { row.to_month; }) {
+    row.to_month = period.to_month;
+    row.to_year = period.to_year;
+  }
+  return row;
+}
 
 // The values of a row in stored order, the numbers as decimal texts.
 template <class Row>
