@@ -72,15 +72,8 @@ const std::vector<LinesRow>& CommonLinesRows() {
 
 LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect twips)
     : form_(form), binder_(new FormBinder(form, *this, form.FocusOrder())) {
-  QFont small = font();
-  small.setPointSizeF(kFontPoints);
-  setFont(small);
-  setWindowTitle(form_.Title());
-  if (!form_.IconPath().isEmpty()) setWindowIcon(QIcon(form_.IconPath()));
-
-  auto* layout = new QVBoxLayout(this);
-  const int margin = TwipsX(*this, kMarginTwips);
-  layout->setContentsMargins(margin, margin, margin, margin);
+  QVBoxLayout* layout =
+      DressWindow(*this, kFontPoints, form_.Title(), form_.IconPath(), kMarginTwips);
   layout->setSpacing(TwipsY(*this, 60));
   QLabel* heading = binder_->Add<QLabel>(u"HeadingLbl"_s, this);
   QFont bold = heading->font();

@@ -38,15 +38,8 @@ bool IsDateBox(const QString& name) { return name == u"FlDateTxt" || name == u"S
 
 OvtForm1View::OvtForm1View(OvtForm1& form)
     : form_(form), binder_(new FormBinder(form, *this, form.FocusOrder())) {
-  QFont small = font();
-  small.setPointSizeF(kFontPoints);
-  setFont(small);
-  setWindowTitle(form_.Title());
-  if (!form_.IconPath().isEmpty()) setWindowIcon(QIcon(form_.IconPath()));
-
-  auto* layout = new QVBoxLayout(this);
-  const int margin = TwipsX(*this, kMarginTwips);
-  layout->setContentsMargins(margin, margin, margin, margin);
+  QVBoxLayout* layout =
+      DressWindow(*this, kFontPoints, form_.Title(), form_.IconPath(), kMarginTwips);
   layout->addWidget(BuildTop());
   layout->addWidget(BuildFrame(), 1);
   layout->addLayout(BuildButtons());

@@ -51,15 +51,9 @@ StartView::StartView(StartForm& form)
   // period labels stand side by side in the narrow window.
   QFont narrow = font();
   narrow.setStretch(QFont::SemiCondensed);
-  narrow.setPointSizeF(kFontPoints);
   setFont(narrow);
-  setWindowTitle(form_.Title());
-  if (!form_.IconPath().isEmpty()) setWindowIcon(QIcon(form_.IconPath()));
-
-  auto* layout = new QVBoxLayout(this);
-  const int margin_x = TwipsX(*this, kMarginTwips);
-  const int margin_y = TwipsY(*this, kMarginTwips);
-  layout->setContentsMargins(margin_x, margin_y, margin_x, margin_y);
+  QVBoxLayout* layout =
+      DressWindow(*this, kFontPoints, form_.Title(), form_.IconPath(), kMarginTwips);
   layout->setSpacing(TwipsY(*this, kSpacingTwips));
   layout->addWidget(BuildTop());
   for (const char* name : {"Command1", "Command4", "Command2", "Command5"}) {

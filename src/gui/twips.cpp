@@ -1,7 +1,9 @@
 #include "gui/twips.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QScreen>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <QWindow>
 #include <cmath>
@@ -80,6 +82,20 @@ void FixWindow(QWidget& window, int left, int top, int width, int height) {
   const QScreen* screen = window.screen();
   const QPoint origin = screen != nullptr ? screen->geometry().topLeft() : QPoint();
   window.move(origin + TwipsPoint(window, left, top));
+}
+
+QVBoxLayout* DressWindow(QWidget& window, double points, const QString& title,
+                         const QString& icon_path, int margin_twips) {
+  QFont font = window.font();
+  font.setPointSizeF(points);
+  window.setFont(font);
+  window.setWindowTitle(title);
+  if (!icon_path.isEmpty()) window.setWindowIcon(QIcon(icon_path));
+  auto* layout = new QVBoxLayout(&window);
+  const int x = TwipsX(window, margin_twips);
+  const int y = TwipsY(window, margin_twips);
+  layout->setContentsMargins(x, y, x, y);
+  return layout;
 }
 
 }  // namespace veroxia

@@ -6,6 +6,8 @@
 #include <QRect>
 #include <QSize>
 
+class QString;
+class QVBoxLayout;
 class QWidget;
 
 namespace veroxia {
@@ -24,5 +26,11 @@ QPoint TwipsPoint(const QWidget& on, int left, int top);
 // the frame's size (before that, and without a frame, the inner area takes the
 // whole size). Every later resize is undone.
 void FixWindow(QWidget& window, int left, int top, int width, int height);
+
+// Dresses a form's window: its font at `points`, its title and icon (none
+// when `icon_path` is empty), and a column layout with margins of
+// `margin_twips`, which it returns for the caller to fill.
+QVBoxLayout* DressWindow(QWidget& window, double points, const QString& title,
+                         const QString& icon_path, int margin_twips);
 
 }  // namespace veroxia
