@@ -29,8 +29,12 @@ QString ErrorDescription(const StoreError& error) {
 }
 
 QString ErrorMessage(const QString& first_line, const StoreError& error) {
-  return first_line + QStringLiteral("\r\n") + texts::kErrorCode + QString::number(error.code) +
-         QStringLiteral("\r\n") + texts::kErrorDescription + ErrorDescription(error);
+  return ErrorMessage(first_line, error.code, ErrorDescription(error));
+}
+
+QString ErrorMessage(const QString& first_line, int code, const QString& description) {
+  return first_line + QStringLiteral("\r\n") + texts::kErrorCode + QString::number(code) +
+         QStringLiteral("\r\n") + texts::kErrorDescription + description;
 }
 
 }  // namespace veroxia

@@ -16,5 +16,7 @@ QString ErrorDescription(const StoreError& error);
 // first_line, CR LF, "Κωδικός λάθους: " number, CR LF, "Περιγραφή λάθους: "
 // and the error's description.
 QString ErrorMessage(const QString& first_line, const StoreError& error);
+// The same for an error of any other source, described already.
+QString ErrorMessage(const QString& first_line, int code, const QString& description);
 
 }  // namespace veroxia

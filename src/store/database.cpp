@@ -190,6 +190,19 @@ Text Statement::Value(int column) const {
   return QString::fromUtf8(data, sqlite3_column_bytes(stmt_, column));
 }
 
+int Statement::ColumnCount() const { return sqlite3_column_count(stmt_); }
+
+QString Statement::ColumnName(int column) const {
+  return QString::fromUtf8(sqlite3_column_name(stmt_, column));
+}
+
+int Statement::ColumnIndex(const QString& name) const {
+  for (int column = 0; column < ColumnCount(); ++column) {
+    if (ColumnName(column) == name) return column;
+  }
+  return -1;
+}
+
 Transaction::Transaction(Database& db) : db_(db) { db_.Exec("BEGIN IMMEDIATE"); }
 
 Transaction::~Transaction() {

@@ -89,6 +89,10 @@ class Statement {
   int Int(int column) const;
   qint64 Int64(int column) const;
   Text Value(int column) const;  // any column as text, Null kept
+  int ColumnCount() const;
+  QString ColumnName(int column) const;
+  // The column of that name in the result; -1 when there is none.
+  int ColumnIndex(const QString& name) const;
 
  private:
   Database& db_;

@@ -48,6 +48,20 @@ int CountLines(Database& db, Kind kind, int id) {
   return count;
 }
 
+Rows HeaderRow(Database& db, Kind kind, int id) {
+  Statement& statement = db.Prepare(Sql("SELECT * FROM %1 WHERE id = ?", TablesOf(kind).header));
+  statement.Bind(1, id);
+  return Rows(statement);
+}
+
+Rows LinesInOrder(Database& db, Kind kind, int id) {
+  const KindTables tables = TablesOf(kind);
+  Statement& statement =
+      db.Prepare(Sql("SELECT * FROM %1 WHERE id = ? ORDER BY %2", tables.lines, tables.order));
+  statement.Bind(1, id);
+  return Rows(statement);
+}
+
 void ClearScratch(Database& db, Kind kind) {
   db.Prepare(Sql("DELETE FROM %1", TablesOf(kind).scratch)).Run();
 }

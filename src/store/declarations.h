@@ -30,6 +30,24 @@ Text MaxId(Database& db, Kind kind);
 // The number of employee lines of a declaration.
 int CountLines(Database& db, Kind kind, int id);
 
+// The header row of a declaration with every column, and its employee lines
+// with every column in the kind's reading order, ready to be stepped through.
+// The statement is reset when the Rows goes.
+class Rows {
+ public:
+  explicit Rows(Statement& statement) : statement_(statement) {}
+  ~Rows() { statement_.Reset(); }
+  Rows(const Rows&) = delete;
+  Rows& operator=(const Rows&) = delete;
+  Statement& operator*() const { return statement_; }
+  Statement* operator->() const { return &statement_; }
+
+ private:
+  Statement& statement_;
+};
+Rows HeaderRow(Database& db, Kind kind, int id);
+Rows LinesInOrder(Database& db, Kind kind, int id);
+
 // Empties the kind's scratch table.
 void ClearScratch(Database& db, Kind kind);
 

@@ -1,0 +1,30 @@
+#pragma once
+// The texts of the submission-file writer, exactly as the user sees them.
+// "πρόβλημα.H" holds a Latin H; it is part of the text.
+
+#include <QString>
+
+namespace veroxia::filing_texts {
+
+using namespace Qt::StringLiterals;
+
+// clang-format off
+inline const QString kFileTitle = u"Δημιουργία αρχείου Ξ.Ρ.Φ."_s;
+inline const QString kNoDateLine1 = u"ΠΡΟΣΟΧΗ!! Για να γίνει η δημιουργία του αρχείου πρέπει να έχετε συμπληρώσει"_s;
+inline const QString kNoDateLine2 = u"το πεδίο 'ΗΜ/ΝΙΑ ΥΠΟΒΟΛΗΣ ΔΗΛΩΣΕΩΣ' τις φόρμας."_s;
+inline const QString kWrittenIn = u"Το αρχείο δημιουργήθηκε με επιτυχία στον κατάλογο '"_s;
+inline const QString kWriteFailed = u"ΠΡΟΣΟΧΗ!! Παρουσιάστηκε πρόβλημα.H δημιουργεία αρχείου δεν ήταν επιτυχής!"_s;
+
+// Our own texts, for what the program must still answer clearly.
+// A character the file's code page cannot hold: the line's number, the
+// insured person's register number, the box and the character.
+inline const QString kUnencodableLine = u"ΠΡΟΣΟΧΗ!! Η γραμμή %1 (Α.Μ. ασφαλισμένου '%2') έχει στο πεδίο %3 τον χαρακτήρα '%4', που δεν μπορεί να γραφτεί στο αρχείο Ξ.Ρ.Φ."_s;
+// The same in the declaration's header: the box and the character.
+inline const QString kUnencodableHeader = u"ΠΡΟΣΟΧΗ!! Η επικεφαλίδα της δήλωσης έχει στο πεδίο %1 τον χαρακτήρα '%2', που δεν μπορεί να γραφτεί στο αρχείο Ξ.Ρ.Φ."_s;
+inline const QString kNothingWritten = u"Διορθώστε το πεδίο και ξαναδοκιμάστε. Δεν γράφτηκε κανένα αρχείο."_s;
+// What a failed file operation means.
+inline const QString kDirectoryMissing = u"Ο κατάλογος δεν υπάρχει."_s;
+inline const QString kDirectoryNotWritable = u"Δεν επιτρέπεται η εγγραφή στον κατάλογο."_s;
+// clang-format on
+
+}  // namespace veroxia::filing_texts

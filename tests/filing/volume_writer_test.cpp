@@ -1,0 +1,392 @@
+#include "filing/volume_writer.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fakes.h"
+#include "support/store_rows.h"
+
+namespace veroxia {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct MemoryVolumes : VolumeSink {
+  void Begin(const QString& name) override { volumes.push_back({name, {}}); }
+  void Write(const QByteArray& bytes) override { volumes.back().second += bytes; }
+  void Finish() override { finished = true; }
+  void Abandon(bool) override {}
+  // The records of a volume, line ends removed.
+  QList<QByteArray> Records(size_t volume) const {
+    QList<QByteArray> records = volumes.at(volume).second.split('\n');
+    EXPECT_TRUE(records.takeLast().isEmpty());  // the file ends in CR LF
+    for (QByteArray& record : records) {
+      EXPECT_TRUE(record.endsWith('\r'));
+      record.chop(1);
+    }
+    return records;
+  }
+  // The record types of a volume, "1" to "3" and "E" for EOF.
+  QByteArray Types(size_t volume) const {
+    QByteArray types;
+    for (const QByteArray& record : Records(volume)) types += record.front();
+    return types;
+  }
+  std::vector<std::pair<QString, QByteArray>> volumes;
+  bool finished = false;
+};
+
+class VolumeWriterTest : public ::testing::Test {
+ public:
+  Database& db() { return store_.Open(); }
+  // A line of a person, every other column empty.
+  template <class Row>
+  void Line(int row_num, const Text& insured_id) {
+    Row row;
+    row.id = 1;
+    row.row_num = row_num;
+    row.insured_id = insured_id;
+    row.surname = u"S"_s + QString::number(row_num);
+    InsertRow(db(), row);
+  }
+  template <class Row>
+  void Lines(int count) {
+    Transaction transaction(db());
+    for (int i = 0; i < count; ++i) Line<Row>(i + 1, QString::number(100'000'000 + i));
+    transaction.Commit();
+  }
+  // A header with no values but its submission date.
+  template <class Header>
+  static Header Submitted() {
+    Header header;
+    header.id = 1;
+    if constexpr (requires { header.CreateFlDate; }) {
+      header.CreateFlDate = u"05/03/2002"_s;
+    } else {
+      header.createfldate = u"05/03/2002"_s;
+    }
+    return header;
+  }
+  template <class Header>
+  MemoryVolumes Write(Kind kind, Header header = Submitted<Header>()) {
+    InsertRow(db(), header);
+    VolumeWriter writer(db(), kind, 1);
+    MemoryVolumes volumes;
+    writer.Write(volumes);
+    EXPECT_TRUE(volumes.finished);
+    return volumes;
+  }
+
+  testing::TempStore store_;
+};
+
+TEST(VolumeFields, EachFormatAsTheFileHoldsIt) {
+  const struct {
+    FieldFormat format;
+    int width;
+    Text value;
+    QString expected;
+  } cases[] = {
+      {FieldFormat::kAmount, 10, u"1234,5"_s, u"0000123450"_s},
+      {FieldFormat::kAmount, 10, u"100"_s, u"0000010000"_s},
+      {FieldFormat::kAmount, 5, u"12,5"_s, u"01250"_s},  // a percentage
+      {FieldFormat::kAmount, 12, u" 1.234,567 "_s, u"000000123457"_s},
+      {FieldFormat::kAmount, 11, u"-5"_s, u"0000000-500"_s},
+      {FieldFormat::kAmount, 10, u"abc"_s, u"0000000abc"_s},
+      {FieldFormat::kAmount, 4, u"123456"_s, u"12345600"_s},  // never cut
+      {FieldFormat::kAmount, 10, std::nullopt, u"0000000000"_s},
+      {FieldFormat::kAmount, 10, u""_s, u"0000000000"_s},
+      {FieldFormat::kDigits, 9, u" 12.345,6 "_s, u"000123456"_s},
+      {FieldFormat::kDigits, 2, std::nullopt, u"00"_s},
+      {FieldFormat::kDigits, 2, u"123"_s, u"123"_s},
+      {FieldFormat::kText, 5, u" αβ "_s, u"αβ   "_s},
+      {FieldFormat::kText, 3, std::nullopt, u"   "_s},
+      {FieldFormat::kText, 2, u"abcd"_s, u"abcd"_s},
+      {FieldFormat::kDate, 8, u"05/03/2002"_s, u"05032002"_s},
+      {FieldFormat::kDate, 8, u"5/3/2002"_s, u"00532002"_s},
+      {FieldFormat::kDate, 8, u"  "_s, u"        "_s},
+      {FieldFormat::kDate, 8, std::nullopt, u"        "_s},
+      {FieldFormat::kAmka, 11, u" "_s, u"           "_s},
+      {FieldFormat::kAmka, 11, std::nullopt, u"           "_s},
+      {FieldFormat::kAmka, 11, u"1234"_s, u"00000001234"_s},
+      {FieldFormat::kMarried, 1, u"1"_s, u"2"_s},
+      {FieldFormat::kMarried, 1, u"2"_s, u"1"_s},
+      {FieldFormat::kMarried, 1, u" 1"_s, u"1"_s},
+      {FieldFormat::kMarried, 1, std::nullopt, u"1"_s},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.value.value_or(u"<Null>"_s).toStdString());
+    EXPECT_EQ(FormatField({0, 1, c.width, "x", c.format}, c.value), c.expected);
+  }
+}
+
+// Every record is its fields side by side: each field starts where the one
+// before ends, and the record has its fixed size.
+TEST(VolumeFields, RecordsAreTheirFieldsSideBySide) {
+  for (const Kind kind : {Kind::Common, Kind::Construction}) {
+    const VolumeLayout& layout = VolumeLayoutOf(kind);
+    const struct {
+      const std::vector<VolumeField>& fields;
+      int first;  // where the fields start
+      int end;    // the column after the last field
+    } records[] = {{layout.header, 16, layout.header_bytes - 2 - layout.reserved + 1},
+                   {layout.person, 2, layout.person_bytes - 2 + 1},
+                   {layout.line, 2, layout.line_bytes - 2 + 1}};
+    for (const auto& record : records) {
+      int start = record.first;
+      for (const VolumeField& field : record.fields) {
+        EXPECT_EQ(field.start, start) << field.column;
+        start += field.width;
+      }
+      EXPECT_EQ(start, record.end);
+    }
+  }
+}
+
+TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
+  EmployeeRow line;
+  line.id = 1;
+  line.row_num = 1;
+  line.emp_branch_id = u"12"_s;
+  line.kad = u"5221"_s;
+  line.insured_id = u"123456789"_s;
+  line.amka = u""_s;
+  line.surname = u"Παπαδόπουλος"_s;  // as stored: lower case and accents are written
+  line.father_name = u"ΙΩΑΝΝΗΣ"_s;
+  line.birth_date = u"5/3/1970"_s;
+  line.taxation_id = u"12345678"_s;
+  line.full_day = u"1"_s;
+  line.all_days = u"0"_s;
+  line.sundays_sum = u"2"_s;
+  line.insur_categ_code = u"913120"_s;
+  line.covcod_cover_code = u"101"_s;
+  line.sal_month = u"3"_s;
+  line.sal_year = u"2002"_s;
+  line.sal_from = u"01/03/2002"_s;
+  line.sal_to = u""_s;
+  line.wage_code = u"1"_s;
+  line.insurance_days = u"25"_s;
+  line.daily_wages = u"1234,5"_s;
+  line.salary = u"100"_s;
+  line.insured_contr = u"30,87"_s;
+  line.total_contr = u"-5"_s;
+  line.subsidy_amount = u"0,125"_s;
+  line.emp_subsidy_percent = u"12,5"_s;
+  line.emp_subsidy_amount = u"abc"_s;
+  line.payed_contr = u"12345678901,5"_s;  // longer than its field: shifts nothing before it
+  InsertRow(db(), line);
+
+  EmployerRow header = Submitted<EmployerRow>();
+  header.declaration_type = u"1"_s;
+  header.orgbra_branch_code = u"51"_s;
+  header.orgbra_branch_descr = u" Αθηνών "_s;
+  header.total_salaries = u"1234,5"_s;
+  header.stop_date = u""_s;
+  const MemoryVolumes volumes = Write(Kind::Common, header);
+
+  ASSERT_EQ(volumes.volumes.size(), 1u);
+  EXPECT_EQ(volumes.volumes[0].first, u"CSL01"_s);
+  EXPECT_EQ(volumes.Types(0), "123E");
+  const QList<QByteArray> records = volumes.Records(0);
+  const QByteArray& first = records[0];
+  EXPECT_EQ(first.size(), 414);
+  for (const auto& [start, expected] : std::initializer_list<std::pair<int, QByteArray>>{
+           {1, "10101CSL01   01"},
+           {16, "01051"},
+           {21, "\xC1\xE8\xE7\xED\xFE\xED" + QByteArray(44, ' ')},  // "Αθηνών"
+           {337, "00000000000000123450"},                           // no days, then the wages
+           {369, "05032002        "},                               // submitted, never stopped
+           {385, QByteArray(30, ' ')}}) {
+    EXPECT_EQ(first.mid(start - 1, expected.size()), expected) << start;
+  }
+  // "Παπαδόπουλος" in the Greek code page
+  const QByteArray surname = "\xD0\xE1\xF0\xE1\xE4\xFC\xF0\xEF\xF5\xEB\xEF\xF2";
+  EXPECT_EQ(records[1], "2123456789" + QByteArray(11, ' ') + surname + QByteArray(38, ' ') +
+                            QByteArray(30, ' ') + "\xC9\xD9\xC1\xCD\xCD\xC7\xD3" +
+                            QByteArray(23, ' ') + QByteArray(30, ' ') + "00531970" + "012345678");
+  EXPECT_EQ(records[2],
+            "3"
+            "0012"
+            "5221"
+            "1"
+            "0"
+            "2"
+            "913120"
+            "00"
+            "0101"
+            "03"
+            "2002"
+            "01032002"
+            "        "
+            "01"
+            "025"
+            "0000123450"
+            "0000010000"
+            "0000003087"
+            "0000000000"
+            "0000000-500"
+            "0000000013"
+            "01250"
+            "0000000abc"
+            "1234567890150");
+  EXPECT_EQ(records[3], "EOF");
+}
+
+TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
+  ConEmployeeRow line;
+  line.id = 1;
+  line.row_num = 1;
+  line.ovt_code = u"51"_s;
+  line.insured_id = u"123456789"_s;
+  line.amka = u"12345678901"_s;
+  line.married_status = u"1"_s;
+  line.triennium_num = u"2"_s;
+  line.categ_code = u"1"_s;
+  line.sal_from = u"01/03/2002"_s;
+  line.wage_code = u"3"_s;
+  line.insurance_days = u"125"_s;  // three digits: the record grows by one
+  line.daily_wages = u"50"_s;
+  line.phase_code = u"7"_s;
+  line.costing_days = u"20"_s;
+  line.total_contr = u"1,1"_s;
+  InsertRow(db(), line);
+  ConEmployerRow header = Submitted<ConEmployerRow>();
+  header.sum_salaries = u"2"_s;
+  header.sum_days = u"3"_s;
+  const MemoryVolumes volumes = Write(Kind::Construction, header);
+
+  const QList<QByteArray> records = volumes.Records(0);
+  EXPECT_EQ(volumes.volumes[0].first, u"CSC01"_s);
+  EXPECT_EQ(records[0].size(), 613);
+  EXPECT_EQ(records[0].mid(535, 32),
+            "000000000200"
+            "00000003"
+            "000000000000");
+  EXPECT_EQ(records[1].mid(10, 11), "12345678901");
+  EXPECT_EQ(records[1].size(), 179);
+  EXPECT_EQ(records[1].back(), '2');  // married
+  EXPECT_EQ(records[2],
+            "3"
+            "051"
+            "2"
+            "0"
+            "000001"
+            "00"
+            "0000"
+            "01032002"
+            "        "
+            "03"
+            "125"
+            "0000005000"
+            "0000000000"
+            "07"
+            "20"
+            "0000000000"
+            "0000000000"
+            "00000000110");
+}
+
+// A record "2" opens a group at every change of the stored id against the
+// trimmed id before it; an empty id opens one and so does the line after it.
+TEST_F(VolumeWriterTest, GroupsFollowTheStoredInsuredId) {
+  int row = 0;
+  for (const Text& id : std::initializer_list<Text>{
+           u"111"_s, u"111"_s,            // one group of two lines
+           u"222"_s,                      // another person
+           u"333 "_s, u"333 "_s,          // blanks after the id: each line opens a group
+           u"444"_s, u""_s, u"444"_s}) {  // an empty id between
+    Line<EmployeeRow>(++row, id);
+  }
+  const MemoryVolumes volumes = Write<EmployerRow>(Kind::Common);
+  // reading order: "", "111", "111", "222", "333 ", "333 ", "444", "444"
+  EXPECT_EQ(volumes.Types(0),
+            "1"
+            "23"
+            "233"
+            "23"
+            "23"
+            "23"
+            "233"
+            "E");
+}
+
+TEST_F(VolumeWriterTest, NoLinesGiveOneVolumeWithTheHeaderOnly) {
+  const MemoryVolumes volumes = Write<ConEmployerRow>(Kind::Construction);
+  ASSERT_EQ(volumes.volumes.size(), 1u);
+  EXPECT_EQ(volumes.Types(0), "1E");
+  EXPECT_TRUE(volumes.Records(0)[0].startsWith("10101CSC01   01"));
+}
+
+// A line starts a new volume when it could take the volume past 1,400,000
+// bytes; the volume count in every header is the estimate made beforehand.
+template <class Header, class Row>
+void ExpectTwoVolumes(VolumeWriterTest& test, Kind kind, int lines, qsizetype first_bytes,
+                      const QByteArray& estimate) {
+  test.template Lines<Row>(lines);
+  const MemoryVolumes volumes = test.template Write<Header>(kind);
+  ASSERT_EQ(volumes.volumes.size(), 2u);
+  EXPECT_EQ(volumes.volumes[0].second.size(), first_bytes);
+  EXPECT_EQ(volumes.Records(0).size(), 1 + 2 * (lines - 1) + 1);
+  EXPECT_EQ(volumes.Types(1), "123E");
+  const QByteArray prefix = kind == Kind::Common ? "CSL" : "CSC";
+  EXPECT_EQ(volumes.Records(0)[0].left(10), "1" + estimate + "01" + prefix + "01");
+  EXPECT_EQ(volumes.Records(1)[0].left(10), "1" + estimate + "02" + prefix + "02");
+  EXPECT_EQ(volumes.Records(0)[0].mid(10), volumes.Records(1)[0].mid(10));
+}
+
+TEST_F(VolumeWriterTest, CommonVolumesBreakAtTheirSize) {
+  ExpectTwoVolumes<EmployerRow, EmployeeRow>(*this, Kind::Common, 4374, 1'399'781, "01");
+}
+
+TEST_F(VolumeWriterTest, ConstructionVolumesBreakAtTheirSize) {
+  ExpectTwoVolumes<ConEmployerRow, ConEmployeeRow>(*this, Kind::Construction, 5071, 1'399'940,
+                                                   "02");
+}
+
+// A person whose lines go on in the next volume is named again at its top.
+TEST_F(VolumeWriterTest, APersonGoingOnInANewVolumeIsNamedAgain) {
+  {
+    Transaction transaction(db());
+    for (int i = 1; i <= 10'000; ++i) Line<EmployeeRow>(i, u"123456789"_s);
+    transaction.Commit();
+  }
+  const MemoryVolumes volumes = Write<EmployerRow>(Kind::Common);
+  ASSERT_EQ(volumes.volumes.size(), 2u);
+  // 416 + 180 + 9993 * 140 bytes, and 400 more would pass the size.
+  EXPECT_EQ(volumes.Types(0).count('3'), 9993);
+  EXPECT_EQ(volumes.Types(1), "12" + QByteArray(7, '3') + "E");
+}
+
+TEST_F(VolumeWriterTest, TenVolumesAndMoreAreNamedInPlainDecimal) {
+  Lines<EmployeeRow>(4373 * 9 + 1);
+  const MemoryVolumes volumes = Write<EmployerRow>(Kind::Common);
+  ASSERT_EQ(volumes.volumes.size(), 10u);
+  EXPECT_EQ(volumes.volumes[8].first, u"CSL09"_s);
+  EXPECT_EQ(volumes.volumes[9].first, u"CSL10"_s);
+  EXPECT_EQ(volumes.Records(9)[0].left(10), "10910CSL10");  // the estimate says 9
+}
+
+TEST_F(VolumeWriterTest, ACharacterTheCodePageCannotHoldStopsTheRun) {
+  Line<EmployeeRow>(1, u"111"_s);
+  EmployeeRow line;
+  line.id = 1;
+  line.row_num = 7;
+  line.insured_id = u"222"_s;
+  line.mother_name = u"ΜΑΡΙЯ"_s;  // a Cyrillic letter
+  InsertRow(db(), line);
+  InsertRow(db(), Submitted<EmployerRow>());
+  VolumeWriter writer(db(), Kind::Common, 1);
+  MemoryVolumes volumes;
+  try {
+    writer.Write(volumes);
+    ADD_FAILURE() << "written";
+  } catch (const Unencodable& fault) {
+    EXPECT_EQ(fault.row_num, u"7"_s);
+    EXPECT_EQ(fault.insured_id, u"222"_s);
+    EXPECT_EQ(fault.field, u"24"_s);
+    EXPECT_EQ(fault.character, u"Я"_s);
+  }
+  EXPECT_FALSE(volumes.finished);
+}
+
+}  // namespace
+}  // namespace veroxia
