@@ -18,17 +18,6 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
-// The payroll store, made once; each benchmark works on its own copy.
-const QString& PayrollFile() {
-  static QTemporaryDir dir;
-  static const QString path = [] {
-    const QString file = dir.path() + u"/payroll.mdb"_s;
-    MakePayrollStore(file);
-    return file;
-  }();
-  return path;
-}
-
 class Screen {
  public:
   Screen() {

@@ -1,6 +1,7 @@
 #include "payroll.h"
 
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include "store/rows.h"
 #include "store/schema.h"
@@ -31,6 +32,54 @@ QString PayrollSurname(int person) {
   const int n = static_cast<int>(letters.size());
   return Surnames()[person % Surnames().size()] + u' ' + letters[(person / 20) % n] +
          letters[(person / 20 / n) % n];
+}
+
+namespace {
+
+// The same person's line in a construction-works declaration.
+ConEmployeeRow WorkerLine(const EmployeeRow& line) {
+  ConEmployeeRow row;
+  row.id = line.id;
+  row.row_num = line.row_num;
+  row.ovt_code = u"051"_s;
+  row.insured_id = line.insured_id;
+  row.amka = line.amka;
+  row.surname = line.surname;
+  row.name = line.name;
+  row.father_name = line.father_name;
+  row.mother_name = line.mother_name;
+  row.birth_date = line.birth_date;
+  row.taxation_id = line.taxation_id;
+  row.married_status = u"1"_s;
+  row.triennium_num = u"1"_s;
+  row.sundays_sum = line.sundays_sum;
+  row.categ_code = u"713000"_s;
+  row.special_code = line.special_insur_code;
+  row.cover_code = u"2013"_s;
+  row.sal_from = u"01/01/2002"_s;
+  row.sal_to = u"31/01/2002"_s;
+  row.wage_code = line.wage_code;
+  row.insurance_days = u"20"_s;
+  row.daily_wages = line.daily_wages;
+  row.salary = line.salary;
+  row.phase_code = u"3"_s;
+  row.costing_days = u"20"_s;
+  row.insured_contr = line.insured_contr;
+  row.employer_contr = line.employer_contr;
+  row.total_contr = line.total_contr;
+  return row;
+}
+
+}  // namespace
+
+const QString& PayrollFile() {
+  static QTemporaryDir dir;
+  static const QString path = [] {
+    const QString file = dir.path() + u"/payroll.mdb"_s;
+    MakePayrollStore(file);
+    return file;
+  }();
+  return path;
 }
 
 void MakePayrollStore(const QString& path, int lines, int persons) {
@@ -85,8 +134,14 @@ void MakePayrollStore(const QString& path, int lines, int persons) {
       row.emp_subsidy_amount = u"0"_s;
       row.payed_contr = u"440,5"_s;
       InsertRow(*db, row);
+      InsertRow(*db, WorkerLine(row));
     }
   }
+  ConEmployerRow con_header;
+  con_header.id = kPayrollId;
+  con_header.from_month = u"01"_s;
+  con_header.from_year = u"2002"_s;
+  InsertRow(*db, con_header);
   transaction.Commit();
 }
 

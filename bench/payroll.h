@@ -1,7 +1,7 @@
 #pragma once
-// A store holding one common-business declaration with a large payroll: the
-// lines of many persons, several per person (payroll months and wage types),
-// numbered in reading order, every column filled as the screen stores it.
+// A store holding one declaration of each kind with a large payroll: the lines
+// of many persons, several per person (payroll months and wage types),
+// numbered in reading order, every column filled as the screens store it.
 
 #include <QString>
 
@@ -14,6 +14,10 @@ constexpr int kPayrollPersons = 30'000;
 // Makes the store at path (which must not exist yet).
 void MakePayrollStore(const QString& path, int lines = kPayrollLines,
                       int persons = kPayrollPersons);
+
+// The payroll store, made once per run in a temporary directory; a benchmark
+// that changes it works on its own copy.
+const QString& PayrollFile();
 
 // The register number of a person of the payroll (nine digits).
 QString PayrollInsuredId(int person);

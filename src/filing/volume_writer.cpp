@@ -1,5 +1,6 @@
 #include "filing/volume_writer.h"
 
+#include "filing/plain_field.h"
 #include "rules/formats.h"
 #include "rules/texts.h"
 #include "store/declarations.h"
@@ -12,7 +13,6 @@ using namespace Qt::StringLiterals;
 
 // No insured id is ever equal to this, so the first line opens a group.
 const QString kNoPerson = u"&$%^&*()$%"_s;
-const QString kCrLf = u"\r\n"_s;
 
 QStringEncoder MakeEncoder() {
   return QStringEncoder("windows-1253", QStringConverter::Flag::Stateless);
@@ -72,11 +72,11 @@ VolumeWriter::VolumeWriter(Database& db, Kind kind, int id)
   for (int column = 0; column < row->ColumnCount(); ++column) {
     header_->emplace_back(row->ColumnName(column), row->Value(column));
   }
-  header_text_ = u"   01"_s;
+  header_bytes_ = "   01";
   for (const VolumeField& field : layout_.header) {
-    header_text_ += FormatField(field, HeaderValue(field.column));
+    AppendField(header_bytes_, field, HeaderValue(field.column), nullptr);
   }
-  header_text_ += QString(layout_.reserved, u' ');
+  header_bytes_.append(layout_.reserved, ' ');
 }
 
 Text VolumeWriter::HeaderValue(const char* column) const {
@@ -94,8 +94,9 @@ QString VolumeWriter::VolumeName(int volume) const {
   return QLatin1StringView(layout_.prefix) + VolumeNumber(volume);
 }
 
-QString VolumeWriter::HeaderRecord(int volume, const QString& name) const {
-  return u'1' + VolumeNumber(estimated_) + VolumeNumber(volume) + name + header_text_ + kCrLf;
+QByteArray VolumeWriter::HeaderRecord(int volume, const QString& name) const {
+  return (u'1' + VolumeNumber(estimated_) + VolumeNumber(volume) + name).toLatin1() +
+         header_bytes_ + "\r\n";
 }
 
 std::vector<VolumeWriter::Bound> VolumeWriter::Bind(const std::vector<VolumeField>& fields,
@@ -108,57 +109,49 @@ std::vector<VolumeWriter::Bound> VolumeWriter::Bind(const std::vector<VolumeFiel
   return bound;
 }
 
-void VolumeWriter::Append(QString& record, const std::vector<Bound>& fields,
-                          const Statement& rows) const {
-  for (const Bound& bound : fields) {
-    record += FormatField(*bound.field, bound.column < 0 ? Text() : rows.Value(bound.column));
-  }
-}
-
-QByteArray VolumeWriter::Encode(const QString& record, const Statement* line) {
-  QByteArray bytes = encoder_.encode(record);
-  if (!encoder_.hasError()) return bytes;
-  // Find the field that holds the character, to tell the user where it is.
+void VolumeWriter::AppendField(QByteArray& record, const VolumeField& field, const Text& value,
+                               const Statement* line) {
+  const QString text = FormatField(field, value);
+  if (CodePageTable().Append(record, text)) return;
+  record += encoder_.encode(text);
+  if (!encoder_.hasError()) return;
+  // Tell the user where the character stands.
   Unencodable fault;
-  const auto search = [&](const std::vector<VolumeField>& fields, auto value_of) {
-    for (const VolumeField& field : fields) {
-      const QString character = FirstUnencodable(FormatField(field, value_of(field)));
-      if (character.isEmpty()) continue;
-      fault.field = field.box > 0 ? QString::number(field.box) : QLatin1StringView(field.column);
-      fault.character = character;
-      return true;
-    }
-    return false;
-  };
-  if (line == nullptr) {
-    search(layout_.header, [&](const VolumeField& field) { return HeaderValue(field.column); });
-  } else {
-    const auto value_of = [&](const VolumeField& field) -> Text {
-      const int column = line->ColumnIndex(QLatin1StringView(field.column));
-      return column < 0 ? Text() : line->Value(column);
-    };
-    if (!search(layout_.person, value_of)) search(layout_.line, value_of);
+  fault.field = field.box > 0 ? QString::number(field.box) : QLatin1StringView(field.column);
+  fault.character = FirstUnencodable(text);
+  if (line != nullptr) {
     fault.row_num = FieldText(line->Value(line->ColumnIndex(u"row_num"_s)));
     fault.insured_id = FieldText(line->Value(line->ColumnIndex(u"insured_id"_s)));
   }
   throw fault;
 }
 
+void VolumeWriter::Append(QByteArray& record, const std::vector<Bound>& fields,
+                          const Statement& rows) {
+  for (const Bound& bound : fields) {
+    const auto utf8 = bound.column < 0 ? std::nullopt : rows.Utf8(bound.column);
+    if (!AppendPlainField(record, *bound.field, utf8)) {
+      AppendField(record, *bound.field, rows.Value(bound.column), &rows);
+    }
+  }
+}
+
 int VolumeWriter::Write(VolumeSink& sink) {
   int volume = 1;
   QString name = VolumeName(volume);
   sink.Begin(name);
-  sink.Write(Encode(HeaderRecord(volume, name), nullptr));
+  sink.Write(HeaderRecord(volume, name));
   int bytes = layout_.header_bytes;
 
   Rows rows = LinesInOrder(db_, layout_.kind, id_);
   const std::vector<Bound> person = Bind(layout_.person, *rows);
   const std::vector<Bound> line = Bind(layout_.line, *rows);
   const int insured_id = rows->ColumnIndex(u"insured_id"_s);
-  const QByteArray eof = encoder_.encode(u"EOF"_s + kCrLf);
-  QString previous = kNoPerson;
+  const QByteArray eof = "EOF\r\n";
+  QByteArray previous = kNoPerson.toLatin1();
   bool new_volume = false;
-  QString record;
+  QByteArray record;
+  record.reserve(1024);
   while (rows->Next()) {
     if (bytes + layout_.margin > kVolumeBytes) new_volume = true;
     if (new_volume) {
@@ -166,25 +159,28 @@ int VolumeWriter::Write(VolumeSink& sink) {
       name = VolumeName(volume);
       sink.Write(eof);
       sink.Begin(name);
-      sink.Write(Encode(HeaderRecord(volume, name), nullptr));
+      sink.Write(HeaderRecord(volume, name));
       bytes = layout_.header_bytes;
     }
-    record.clear();
+    record.resize(0);
     // The stored id, untrimmed, against the trimmed id of the line before.
-    const QString id = rows->Value(insured_id).value_or(QString());
-    if (id != previous || new_volume) {
+    const std::string_view id = rows->Utf8(insured_id).value_or(std::string_view());
+    if (id != std::string_view(previous.constData(), static_cast<size_t>(previous.size())) ||
+        new_volume) {
       new_volume = false;
-      record += u'2';
+      record += '2';
       Append(record, person, *rows);
-      record += kCrLf;
-      previous = id.trimmed().isEmpty() ? kNoPerson : id.trimmed();
+      record += "\r\n";
+      const QString trimmed =
+          QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size())).trimmed();
+      previous = (trimmed.isEmpty() ? kNoPerson : trimmed).toUtf8();
       bytes += layout_.person_bytes;
     }
-    record += u'3';
+    record += '3';
     Append(record, line, *rows);
-    record += kCrLf;
+    record += "\r\n";
     bytes += layout_.line_bytes;
-    sink.Write(Encode(record, &*rows));
+    sink.Write(record);
   }
   sink.Write(eof);
   sink.Finish();

@@ -67,10 +67,14 @@ class VolumeWriter {
     int column;  // in the query's result; -1: not there (Null)
   };
   std::vector<Bound> Bind(const std::vector<VolumeField>& fields, const Statement& rows) const;
-  void Append(QString& record, const std::vector<Bound>& fields, const Statement& rows) const;
+  // Appends the fields of a record made from the line the rows stand on.
+  void Append(QByteArray& record, const std::vector<Bound>& fields, const Statement& rows);
+  // Appends one field through the code page; throws Unencodable naming the
+  // line (none: the header) when a character has no place in it.
+  void AppendField(QByteArray& record, const VolumeField& field, const Text& value,
+                   const Statement* line);
   Text HeaderValue(const char* column) const;
-  QString HeaderRecord(int volume, const QString& name) const;
-  QByteArray Encode(const QString& record, const Statement* line);
+  QByteArray HeaderRecord(int volume, const QString& name) const;
   QString VolumeName(int volume) const;
 
   Database& db_;
@@ -79,7 +83,7 @@ class VolumeWriter {
   int estimated_ = 1;
   // The header row's values, by column name; none when the row is missing.
   std::optional<std::vector<std::pair<QString, Text>>> header_;
-  QString header_text_;  // the fields after the volume's own, built once
+  QByteArray header_bytes_;  // the fields after the volume's own, built once
   QStringEncoder encoder_;
 };
 

@@ -190,6 +190,12 @@ Text Statement::Value(int column) const {
   return QString::fromUtf8(data, sqlite3_column_bytes(stmt_, column));
 }
 
+std::optional<std::string_view> Statement::Utf8(int column) const {
+  if (IsNull(column)) return std::nullopt;
+  const auto* data = reinterpret_cast<const char*>(sqlite3_column_text(stmt_, column));
+  return std::string_view(data, static_cast<size_t>(sqlite3_column_bytes(stmt_, column)));
+}
+
 int Statement::ColumnCount() const { return sqlite3_column_count(stmt_); }
 
 QString Statement::ColumnName(int column) const {

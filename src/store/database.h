@@ -89,6 +89,8 @@ class Statement {
   int Int(int column) const;
   qint64 Int64(int column) const;
   Text Value(int column) const;  // any column as text, Null kept
+  // The same as SQLite holds it, in UTF-8, valid until the next step.
+  std::optional<std::string_view> Utf8(int column) const;
   int ColumnCount() const;
   QString ColumnName(int column) const;
   // The column of that name in the result; -1 when there is none.
