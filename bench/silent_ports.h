@@ -1,7 +1,7 @@
 #pragma once
 // Stand-ins for the person in front of the screen during a measurement:
 // every message is counted, every question answered Yes, the search dialog
-// answers the key it was given.
+// answers the key it was given, the directory dialog is cancelled.
 
 #include "shell/ports.h"
 
@@ -13,6 +13,7 @@ class SilentDialogs : public Dialogs {
   bool Ask(const QString&, const QString&, AskStyle) override { return true; }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return search; }
+  QString AskDirectory() override { return {}; }
 
   int messages = 0;
   SearchAnswer search;

@@ -11,8 +11,10 @@
 #include <cstdio>
 #include <vector>
 
+#include "gui/dir_view.h"
 #include "gui/search_view.h"
 #include "lines/texts.h"
+#include "shell/dir_form.h"
 #include "shell/search_form.h"
 #include "shell/texts.h"
 
@@ -186,6 +188,19 @@ SearchAnswer QtDialogs::AskInsuredPerson() {
   SearchForm form(QCoreApplication::applicationDirPath(), *this);
   form.Load();
   SearchView view(form, Owner());
+  return view.Ask();
+}
+
+QString QtDialogs::AskDirectory() {
+  if (unattended_) {
+    Print(texts::kDirTitle, texts::kAppTitle);
+    return {};
+  }
+  // The form sets the pointer itself: the arrow while open, the hourglass
+  // after OK.
+  DirForm form(QCoreApplication::applicationDirPath(), *this);
+  form.Load();
+  DirView view(form, Owner());
   return view.Ask();
 }
 

@@ -54,6 +54,10 @@ class QtDialogs : public Dialogs {
   // The search dialog over the window shown now; cancelled at once in
   // unattended runs.
   SearchAnswer AskInsuredPerson() override;
+  // The directory dialog over the window shown now, with the normal pointer
+  // (OK leaves the hourglass on for the writing that follows); cancelled at
+  // once in unattended runs.
+  QString AskDirectory() override;
 
   bool Busy() const { return busy_; }
 

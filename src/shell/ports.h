@@ -29,6 +29,9 @@ class Dialogs {
   virtual void SetBusy(bool busy) = 0;
   // The insured-person search dialog, modal.
   virtual SearchAnswer AskInsuredPerson() = 0;
+  // The target-directory dialog, modal: the full path of the chosen
+  // directory, or an empty text when the user cancelled.
+  virtual QString AskDirectory() = 0;
 };
 
 // Which main screen is shown; exactly one at a time. Showing a screen closes

@@ -53,6 +53,14 @@ inline const QString kCarryOverFailed = u"Παρουσιάστηκε πρόβλ�
 inline const QString kErrorCode = u"Κωδικός λάθους: "_s;
 inline const QString kErrorDescription = u"Περιγραφή λάθους: "_s;
 
+// The directory dialog, where the submission file is to be written. The "X"
+// of the drive message is a Latin letter; the drive's name and "'." follow.
+inline const QString kDirTitle = u"Δημιουργία αρχείου Ξ.Ρ.Φ"_s;
+inline const QString kDirLabel1 =
+    u"Επιλέξτε τον κατάλογο στον οποίο θέλετε να αποθηκευτεί το αρχείο Ξ.Ρ.Φ."_s;
+inline const QString kDirDriveUnreadable =
+    u"ΠΡΟΣΟXΗ!! Παρουσιάστηκε πρόβλημα στην ανάγνωση του δίσκου '"_s;
+
 // Our own texts, for cases the program must still answer clearly.
 inline const QString kNoIdLeft =
     u"ΠΡΟΣΟΧΗ!! Δεν μπορεί να δημιουργηθεί νέα δήλωση: έχει συμπληρωθεί ο μέγιστος αριθμός δηλώσεων (32767)."_s;

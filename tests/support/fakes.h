@@ -46,6 +46,14 @@ class FakeDialogs : public Dialogs {
     return answer;
   }
 
+  QString AskDirectory() override {
+    ++directories_asked;
+    if (directories.empty()) return {};
+    const QString answer = directories.front();
+    directories.pop_front();
+    return answer;
+  }
+
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
 
   std::vector<ShownMessage> messages;
@@ -56,6 +64,8 @@ class FakeDialogs : public Dialogs {
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
   int searches_asked = 0;
+  std::deque<QString> directories;  // scripted answers of the directory dialog; cancel when none
+  int directories_asked = 0;
 };
 
 class FakeScreens : public Screens {

@@ -1,0 +1,102 @@
+// The directory dialog's window: it starts in the program's directory, opens
+// a directory by double-click or Enter, and hands back the one opened.
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QListView>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include "driver.h"
+#include "gui/dir_view.h"
+#include "shell/texts.h"
+#include "support/fakes.h"
+
+namespace veroxia::testing {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// The list's entry of that name, once the list has read its directory.
+QModelIndex Entry(const QListView& list, const QString& name) {
+  QElapsedTimer waited;
+  for (waited.start(); waited.elapsed() < 5000; QThread::msleep(5)) {
+    QApplication::processEvents();
+    for (int row = 0; row < list.model()->rowCount(list.rootIndex()); ++row) {
+      const QModelIndex index = list.model()->index(row, 0, list.rootIndex());
+      if (index.data().toString() == name) return index;
+    }
+  }
+  ADD_FAILURE() << "no entry " << name.toStdString();
+  return {};
+}
+
+void DoubleClick(QListView& list, const QString& name) {
+  const QPoint at = list.visualRect(Entry(list, name)).center();
+  for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
+                          QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+    const auto held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, list.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(list.viewport(), &event);
+  }
+}
+
+// Home holds the program's directory app/ with out/more/ in it; the drive
+// GONE was taken out after the list was made.
+TEST(DirViewTest, OpensByDoubleClickOrEnterAndHandsBackTheOpenedDirectory) {
+  QTemporaryDir home;
+  const QString app = home.path() + u"/app"_s;
+  ASSERT_TRUE(QDir(app).mkpath(u"out/more"_s));
+  FakeDialogs dialogs;
+  DirForm form(app, dialogs, [&home] {
+    return QList<Drive>{{u"home"_s, home.path()}, {u"GONE"_s, home.path() + u"/gone"_s}};
+  });
+  form.Load();
+  DirView view(form);
+  auto* list = Find<QListView>(view, u"Dir1"_s);
+  ShowActive(view);
+  ExpectNothingCut(view);
+  EXPECT_EQ(Focused(view), u"Dir1"_s);
+  EXPECT_EQ(Find<QLabel>(view, u"Dir1Path"_s)->toolTip(), app);
+  auto* drives = Find<QComboBox>(view, u"Drive1"_s);
+  drives->setCurrentText(u"GONE"_s);
+  EXPECT_EQ(dialogs.LastMessage(), texts::kDirDriveUnreadable + u"GONE'."_s);
+  EXPECT_EQ(drives->currentText(), u"home"_s);
+
+  DoubleClick(*list, u"out"_s);
+  EXPECT_EQ(form.Path(), app + u"/out"_s);
+  list->setCurrentIndex(Entry(*list, u".."_s));
+  Key(*list, Qt::Key_Return);  // opens "..", does not press OK
+  QApplication::processEvents();
+  EXPECT_FALSE(form.Closed());
+  EXPECT_EQ(form.Path(), app);
+  DoubleClick(*list, u"out"_s);
+  list->setCurrentIndex(Entry(*list, u"more"_s));  // highlighted only
+  Click(view, u"Command1"_s);
+  QApplication::processEvents();
+  EXPECT_FALSE(view.isVisible());
+  EXPECT_EQ(form.Answer(), app + u"/out"_s);
+}
+
+TEST(DirViewTest, CancelEscapeAndTheCloseControlAnswerEmpty) {
+  const std::function<void(DirView&)> ways[] = {
+      [](DirView& view) { Click(view, u"Command2"_s); },
+      [](DirView& view) { Key(*Find<QListView>(view, u"Dir1"_s), Qt::Key_Escape); },
+      [](DirView& view) { view.close(); }};
+  for (const auto& cancel : ways) {
+    FakeDialogs dialogs;
+    DirForm form(QDir::tempPath(), dialogs);
+    form.Load();
+    DirView view(form);
+    QTimer::singleShot(0, &view, [&] { cancel(view); });
+    EXPECT_EQ(view.Ask(), QString());
+    EXPECT_TRUE(form.Closed());
+  }
+}
+
+}  // namespace
+}  // namespace veroxia::testing
