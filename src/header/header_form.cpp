@@ -1,5 +1,6 @@
 #include "header/header_form.h"
 
+#include "filing/create_file.h"
 #include "header/date_box.h"
 #include "header/texts.h"
 #include "rules/texts.h"
@@ -273,9 +274,7 @@ void HeaderForm::PrintSumCmd_Click() {
   dialogs_.Message(header_texts::kNotAvailable, texts::kAppTitle);
 }
 
-void HeaderForm::CreateFile_Click() {
-  dialogs_.Message(header_texts::kNotAvailable, texts::kAppTitle);
-}
+void HeaderForm::CreateFile_Click() { CreateFile(vars_, dialogs_, layout_.kind); }
 
 bool HeaderForm::QueryClose() {
   if (closing_by_command_) return true;

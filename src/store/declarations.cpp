@@ -62,6 +62,26 @@ Rows LinesInOrder(Database& db, Kind kind, int id) {
   return Rows(statement);
 }
 
+std::vector<DeclarationSummary> ListDeclarations(Database& db, Kind kind) {
+  const KindTables tables = TablesOf(kind);
+  const char* columns = kind == Kind::Common
+                            ? "h.id, h.from_month, h.from_year, h.to_month, h.to_year, "
+                              "h.declaration_type"
+                            : "h.id, h.from_month, h.from_year, NULL, NULL, h.declare_type";
+  Statement& statement =
+      db.Prepare("SELECT " + QByteArray(columns) + ", (SELECT count(*) FROM " + tables.lines +
+                 " AS l WHERE l.id = h.id) FROM " + tables.header + " AS h ORDER BY h.id");
+  std::vector<DeclarationSummary> list;
+  while (statement.Next()) {
+    const auto text = [&](int column) { return statement.Value(column).value_or(QString()); };
+    list.push_back({statement.Value(0),
+                    {text(1), text(2), text(3), text(4)},
+                    statement.Value(5),
+                    statement.Int(6)});
+  }
+  return list;
+}
+
 void ClearScratch(Database& db, Kind kind) {
   db.Prepare(Sql("DELETE FROM %1", TablesOf(kind).scratch)).Run();
 }

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <optional>
+#include <vector>
 
 #include "store/database.h"
 #include "store/kind.h"
@@ -47,6 +48,16 @@ class Rows {
 };
 Rows HeaderRow(Database& db, Kind kind, int id);
 Rows LinesInOrder(Database& db, Kind kind, int id);
+
+// What a list of the stored declarations shows of each.
+struct DeclarationSummary {
+  Text id;
+  PeriodTexts period;  // as stored; the construction kind has no end
+  Text type;
+  int lines = 0;
+};
+// Every header of the kind, in id order, with its number of lines.
+std::vector<DeclarationSummary> ListDeclarations(Database& db, Kind kind);
 
 // Empties the kind's scratch table.
 void ClearScratch(Database& db, Kind kind);

@@ -92,8 +92,8 @@ const StateCase kStateCases[] = {
     // A store that cannot be read leaves only the return.
     {"Unreadable", "drop open", kLoadFailedState, false, kUnreadable},
     {"UnreadableTakeover", "drop carry open", kLoadFailedState, true, kUnreadable},
-    {"FileAndPrintouts", "row open print printsum file", kViewState, false,
-     kNotYet + kNotYet + kNotYet},
+    // The file asks for its directory (and stops, cancelled).
+    {"FileAndPrintouts", "row open print printsum file", kViewState, false, kNotYet + kNotYet},
     // The buttons that leave show the next screen, without a question.
     {"Returned", "open exit", kNewState, true, {}, {u"start"_s}},
     {"ToTheEmployees", "row open employees", kViewState, false, {}, {u"lines common"_s}},
@@ -111,6 +111,7 @@ TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
   EXPECT_EQ(form_->ClosingByCommand(), !c.shown.isEmpty());
   EXPECT_TRUE(c.shown.isEmpty() || form_->QueryClose());  // closes without a question
   EXPECT_TRUE(dialogs_.questions.empty());
+  EXPECT_EQ(dialogs_.directories_asked, QString::fromLatin1(c.steps).contains(u"file"_s));
   ExpectBusyBalanced();
 }
 

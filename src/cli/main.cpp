@@ -1,0 +1,142 @@
+// veroxia-cli: the store's declarations and their submission files without a
+// window or a display, for scripts. It writes the same volumes, byte for byte,
+// as the program's "Δημιουργία αρχείου", and tells the same messages on
+// standard error.
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <cstdio>
+
+#include "filing/create_file.h"
+#include "shell/errors.h"
+#include "shell/ports.h"
+#include "shell/texts.h"
+#include "shell/vars.h"
+#include "store/declarations.h"
+#include "store/schema.h"
+#include "store/store_file.h"
+
+namespace {
+
+using namespace veroxia;
+using namespace Qt::StringLiterals;
+
+constexpr int kFailed = 1;
+constexpr int kUsage = 2;
+
+const char* const kHelp =
+    "Usage: veroxia-cli [--store PATH] COMMAND\n"
+    "\n"
+    "Commands:\n"
+    "  list                              the stored declarations, one a line:\n"
+    "                                    kind, id, period, type, number of lines\n"
+    "  volumes common|construction ID DIRECTORY\n"
+    "                                    writes the submission file of the\n"
+    "                                    declaration into DIRECTORY\n"
+    "\n"
+    "Options:\n"
+    "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
+    "  --help         this text\n"
+    "\n"
+    "Exit status: 0 when done; 1 when the store or the file failed, or the\n"
+    "declaration has no submission date; 2 for a wrong command line.\n";
+
+void Print(FILE* to, const QString& text) {
+  QString lines = text;
+  lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+  std::fputs(lines.toUtf8().constData(), to);
+  std::fputc('\n', to);
+}
+
+// The person in front of the screen is a script: messages go to standard
+// error, questions are answered No, the directory is the one given.
+class ConsoleDialogs : public Dialogs {
+ public:
+  explicit ConsoleDialogs(QString directory) : directory_(std::move(directory)) {}
+  void Message(const QString& text, const QString&) override { Print(stderr, text); }
+  bool Ask(const QString& text, const QString&, AskStyle) override {
+    Print(stderr, text);
+    return false;
+  }
+  void SetBusy(bool) override {}
+  SearchAnswer AskInsuredPerson() override { return {}; }
+  QString AskDirectory() override { return directory_; }
+
+ private:
+  QString directory_;
+};
+
+int Usage(const QString& why) {
+  Print(stderr, u"veroxia-cli: "_s + why);
+  std::fputs(kHelp, stderr);
+  return kUsage;
+}
+
+int List(Database& db) {
+  for (const Kind kind : {Kind::Common, Kind::Construction}) {
+    for (const DeclarationSummary& d : ListDeclarations(db, kind)) {
+      QString period = d.period.from_month + u'/' + d.period.from_year;
+      if (kind == Kind::Common) period += u'-' + d.period.to_month + u'/' + d.period.to_year;
+      Print(stdout, QStringList{kind == Kind::Common ? u"common"_s : u"construction"_s,
+                                d.id.value_or(QString()), period, d.type.value_or(QString()),
+                                QString::number(d.lines)}
+                        .join(u'\t'));
+    }
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  QStringList args = QCoreApplication::arguments().mid(1);
+  if (args.isEmpty() || args.contains(u"--help"_s)) {
+    std::fputs(kHelp, args.isEmpty() ? stderr : stdout);
+    return args.isEmpty() ? kUsage : 0;
+  }
+  QString store = StorePath(QCoreApplication::applicationDirPath());
+  if (const qsizetype at = args.indexOf(u"--store"_s); at >= 0) {
+    if (at + 1 >= args.size()) return Usage(u"--store needs a path"_s);
+    store = args.at(at + 1);
+    args.remove(at, 2);
+  }
+  const QString command = args.value(0);
+  Kind kind = Kind::Common;
+  int id = 0;
+  if (command == u"volumes") {
+    if (args.size() != 4) return Usage(u"volumes needs a kind, an id and a directory"_s);
+    if (args[1] == u"construction") {
+      kind = Kind::Construction;
+    } else if (args[1] != u"common") {
+      return Usage(u"the kind is common or construction"_s);
+    }
+    bool number = false;
+    id = args[2].toInt(&number);
+    if (!number || id < 1 || id > 32767) return Usage(u"the id is a number from 1 to 32767"_s);
+  } else if (command != u"list" || args.size() != 1) {
+    return Usage(u"unknown command: "_s + args.join(u' '));
+  }
+
+  Vars vars;
+  vars.AppDir = QCoreApplication::applicationDirPath();
+  try {
+    vars.StoreConnection = Database::Open(store, StorePassword());
+    CheckSchema(*vars.StoreConnection);
+  } catch (const StoreError& error) {
+    Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+    return kFailed;
+  }
+  vars.StoreOpen = true;
+  if (command == u"list") {
+    try {
+      return List(*vars.StoreConnection);
+    } catch (const StoreError& error) {
+      Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+      return kFailed;
+    }
+  }
+  vars.DeclarationId = static_cast<std::int16_t>(id);
+  ConsoleDialogs dialogs(args[3]);
+  return CreateFile(vars, dialogs, kind) == FileOutcome::kWritten ? 0 : kFailed;
+}
