@@ -14,6 +14,26 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+// A line 1 of declaration 1 with the given columns, every other one Null.
+template <class Row>
+Row Filled(std::initializer_list<std::pair<const char*, QString>> values) {
+  Row row;
+  row.id = 1;
+  row.row_num = 1;
+  ForEachText(row, [&](const char* column, Text& value) {
+    for (const auto& [name, text] : values) {
+      if (std::string_view(name) == column) value = text;
+    }
+  });
+  return row;
+}
+
+QByteArray Join(std::initializer_list<const char*> fields) {
+  QByteArray joined;
+  for (const char* field : fields) joined += field;
+  return joined;
+}
+
 struct MemoryVolumes : VolumeSink {
   void Begin(const QString& name) override { volumes.push_back({name, {}}); }
   void Write(const QByteArray& bytes) override { volumes.back().second += bytes; }
@@ -179,36 +199,21 @@ TEST(VolumeFields, RecordsAreTheirFieldsSideBySide) {
 }
 
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
-  EmployeeRow line;
-  line.id = 1;
-  line.row_num = 1;
-  line.emp_branch_id = u"12"_s;
-  line.kad = u"5221"_s;
-  line.insured_id = u"123456789"_s;
-  line.amka = u""_s;
-  line.surname = u"Παπαδόπουλος"_s;  // as stored: lower case and accents are written
-  line.father_name = u"ΙΩΑΝΝΗΣ"_s;
-  line.birth_date = u"5/3/1970"_s;
-  line.taxation_id = u"12345678"_s;
-  line.full_day = u"1"_s;
-  line.all_days = u"0"_s;
-  line.sundays_sum = u"2"_s;
-  line.insur_categ_code = u"913120"_s;
-  line.covcod_cover_code = u"101"_s;
-  line.sal_month = u"3"_s;
-  line.sal_year = u"2002"_s;
-  line.sal_from = u"01/03/2002"_s;
-  line.sal_to = u""_s;
-  line.wage_code = u"1"_s;
-  line.insurance_days = u"25"_s;
-  line.daily_wages = u"1234,5"_s;
-  line.salary = u"100"_s;
-  line.insured_contr = u"30,87"_s;
-  line.total_contr = u"-5"_s;
-  line.subsidy_amount = u"0,125"_s;
-  line.emp_subsidy_percent = u"12,5"_s;
-  line.emp_subsidy_amount = u"abc"_s;
-  line.payed_contr = u"12345678901,5"_s;  // longer than its field: shifts nothing before it
+  // The surname is written as stored, lower case and accents too; the paid
+  // contributions are longer than their field and are written whole.
+  // clang-format off
+  const auto line = Filled<EmployeeRow>({
+      {"emp_branch_id", u"12"_s}, {"kad", u"5221"_s}, {"insured_id", u"123456789"_s},
+      {"amka", u""_s}, {"surname", u"Παπαδόπουλος"_s}, {"father_name", u"ΙΩΑΝΝΗΣ"_s},
+      {"birth_date", u"5/3/1970"_s}, {"taxation_id", u"12345678"_s}, {"full_day", u"1"_s},
+      {"all_days", u"0"_s}, {"sundays_sum", u"2"_s}, {"insur_categ_code", u"913120"_s},
+      {"covcod_cover_code", u"101"_s}, {"sal_month", u"3"_s}, {"sal_year", u"2002"_s},
+      {"sal_from", u"01/03/2002"_s}, {"sal_to", u""_s}, {"wage_code", u"1"_s},
+      {"insurance_days", u"25"_s}, {"daily_wages", u"1234,5"_s}, {"salary", u"100"_s},
+      {"insured_contr", u"30,87"_s}, {"total_contr", u"-5"_s}, {"subsidy_amount", u"0,125"_s},
+      {"emp_subsidy_percent", u"12,5"_s}, {"emp_subsidy_amount", u"abc"_s},
+      {"payed_contr", u"12345678901,5"_s}});
+  // clang-format on
   InsertRow(db(), line);
 
   EmployerRow header = Submitted<EmployerRow>();
@@ -239,51 +244,25 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
   EXPECT_EQ(records[1], "2123456789" + QByteArray(11, ' ') + surname + QByteArray(38, ' ') +
                             QByteArray(30, ' ') + "\xC9\xD9\xC1\xCD\xCD\xC7\xD3" +
                             QByteArray(23, ' ') + QByteArray(30, ' ') + "00531970" + "012345678");
-  EXPECT_EQ(records[2],
-            "3"
-            "0012"
-            "5221"
-            "1"
-            "0"
-            "2"
-            "913120"
-            "00"
-            "0101"
-            "03"
-            "2002"
-            "01032002"
-            "        "
-            "01"
-            "025"
-            "0000123450"
-            "0000010000"
-            "0000003087"
-            "0000000000"
-            "0000000-500"
-            "0000000013"
-            "01250"
-            "0000000abc"
-            "1234567890150");
+  EXPECT_EQ(records[2], Join({"3",          "0012",       "5221",       "1",
+                              "0",          "2",          "913120",     "00",
+                              "0101",       "03",         "2002",       "01032002",
+                              "        ",   "01",         "025",        "0000123450",
+                              "0000010000", "0000003087", "0000000000", "0000000-500",
+                              "0000000013", "01250",      "0000000abc", "1234567890150"}));
   EXPECT_EQ(records[3], "EOF");
 }
 
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
-  ConEmployeeRow line;
-  line.id = 1;
-  line.row_num = 1;
-  line.ovt_code = u"51"_s;
-  line.insured_id = u"123456789"_s;
-  line.amka = u"12345678901"_s;
-  line.married_status = u"1"_s;
-  line.triennium_num = u"2"_s;
-  line.categ_code = u"1"_s;
-  line.sal_from = u"01/03/2002"_s;
-  line.wage_code = u"3"_s;
-  line.insurance_days = u"125"_s;  // three digits: the record grows by one
-  line.daily_wages = u"50"_s;
-  line.phase_code = u"7"_s;
-  line.costing_days = u"20"_s;
-  line.total_contr = u"1,1"_s;
+  // Three digits of days: the record grows by one.
+  // clang-format off
+  const auto line = Filled<ConEmployeeRow>({
+      {"ovt_code", u"51"_s}, {"insured_id", u"123456789"_s}, {"amka", u"12345678901"_s},
+      {"married_status", u"1"_s}, {"triennium_num", u"2"_s}, {"categ_code", u"1"_s},
+      {"sal_from", u"01/03/2002"_s}, {"wage_code", u"3"_s}, {"insurance_days", u"125"_s},
+      {"daily_wages", u"50"_s}, {"phase_code", u"7"_s}, {"costing_days", u"20"_s},
+      {"total_contr", u"1,1"_s}});
+  // clang-format on
   InsertRow(db(), line);
   ConEmployerRow header = Submitted<ConEmployerRow>();
   header.sum_salaries = u"2"_s;
@@ -300,25 +279,9 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
   EXPECT_EQ(records[1].mid(10, 11), "12345678901");
   EXPECT_EQ(records[1].size(), 179);
   EXPECT_EQ(records[1].back(), '2');  // married
-  EXPECT_EQ(records[2],
-            "3"
-            "051"
-            "2"
-            "0"
-            "000001"
-            "00"
-            "0000"
-            "01032002"
-            "        "
-            "03"
-            "125"
-            "0000005000"
-            "0000000000"
-            "07"
-            "20"
-            "0000000000"
-            "0000000000"
-            "00000000110");
+  EXPECT_EQ(records[2], Join({"3", "051", "2", "0", "000001", "00", "0000", "01032002", "        ",
+                              "03", "125", "0000005000", "0000000000", "07", "20", "0000000000",
+                              "0000000000", "00000000110"}));
 }
 
 // A record "2" opens a group at every change of the stored id against the
