@@ -72,11 +72,6 @@ VolumeWriter::VolumeWriter(Database& db, Kind kind, int id)
   for (int column = 0; column < row->ColumnCount(); ++column) {
     header_->emplace_back(row->ColumnName(column), row->Value(column));
   }
-  header_bytes_ = "   01";
-  for (const VolumeField& field : layout_.header) {
-    AppendField(header_bytes_, field, HeaderValue(field.column), nullptr);
-  }
-  header_bytes_.append(layout_.reserved, ' ');
 }
 
 Text VolumeWriter::HeaderValue(const char* column) const {
@@ -137,6 +132,11 @@ void VolumeWriter::Append(QByteArray& record, const std::vector<Bound>& fields,
 }
 
 int VolumeWriter::Write(VolumeSink& sink) {
+  header_bytes_ = "   01";
+  for (const VolumeField& field : layout_.header) {
+    AppendField(header_bytes_, field, HeaderValue(field.column), nullptr);
+  }
+  header_bytes_.append(layout_.reserved, ' ');
   int volume = 1;
   QString name = VolumeName(volume);
   sink.Begin(name);

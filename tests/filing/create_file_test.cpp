@@ -25,34 +25,36 @@ QByteArray Bytes(const QString& path) {
 // is told, what is written, and that the store is left as it was.
 TEST(CreateFile, EveryWayOutOfARun) {
   const QString failed = kWriteFailed + u"\r\n"_s + texts::kErrorCode;
+  const QString ok = u"Α"_s;
+  const QString bad = u"Ж"_s;  // not in the code page
+  const QString date = u"05/03/2002"_s;
+  const QString nothing = u"\r\n"_s + kNothingWritten;
   const struct {
     const char* name;
     Text date;              // of the stored header; none: no header
-    QString line_name;      // the stored surname of the one line
-    const char* directory;  // the answer of the dialog: "" cancels, "out" the test's
+    QString employer;       // the stored employer's name
+    int good_lines;         // lines of other persons before the one below
+    QString surname;        // the stored surname of the last line
+    const char* directory;  // the answer of the dialog: " " cancels, "out" the test's
     FileOutcome outcome;
     QString message;    // empty: no message; else how it starts
     bool asked;         // the directory was asked for
     QByteArray volume;  // how CSL01 starts afterwards ("old" from before)
   } cases[] = {
-      {"NoHeader",
-       {},
-       u"Α"_s,
-       "out",
-       FileOutcome::kFailed,
-       failed + u"0\r\n"_s + texts::kErrorDescription,
-       false,
-       "old"},
-      {"NoDate", u" "_s, u"Α"_s, "out", FileOutcome::kNoDate,
-       kNoDateLine1 + u"\r\n"_s + kNoDateLine2, false, "old"},
-      {"Cancelled", u"05/03/2002"_s, u"Α"_s, " ", FileOutcome::kCancelled, {}, true, "old"},
-      {"Written", u"05/03/2002"_s, u"Α"_s, "out", FileOutcome::kWritten, kWrittenIn + u"%1'."_s,
-       true, "10101CSL01   01"},
-      {"Unencodable", u"05/03/2002"_s, u"Ж"_s, "out", FileOutcome::kUnencodable,
-       kUnencodableLine.arg(u"1"_s, u"123456789"_s, u"21"_s, u"Ж"_s) + u"\r\n"_s + kNothingWritten,
-       true, "old"},
-      {"NoSuchDirectory", u"05/03/2002"_s, u"Α"_s, "out/missing", FileOutcome::kFailed,
+      // clang-format off
+      {"NoHeader", {}, ok, 0, ok, "out", FileOutcome::kFailed, failed + u"0\r\n"_s + texts::kErrorDescription, false, "old"},
+      {"NoDate", u" "_s, ok, 0, ok, "out", FileOutcome::kNoDate, kNoDateLine1 + u"\r\n"_s + kNoDateLine2, false, "old"},
+      {"Cancelled", date, ok, 0, ok, " ", FileOutcome::kCancelled, {}, true, "old"},
+      {"Written", date, ok, 0, ok, "out", FileOutcome::kWritten, kWrittenIn + u"%1'."_s, true, "10101CSL01   01"},
+      {"UnencodableLine", date, ok, 0, bad, "out", FileOutcome::kUnencodable,
+       kUnencodableLine.arg(u"1"_s, u"123456789"_s, u"21"_s, bad) + nothing, true, "old"},
+      {"UnencodableInTheSecondVolume", date, ok, 4374, bad, "out", FileOutcome::kUnencodable,
+       kUnencodableLine.arg(u"4375"_s, u"123456789"_s, u"21"_s, bad) + nothing, true, "old"},
+      {"UnencodableHeader", date, bad, 0, ok, "out", FileOutcome::kUnencodable,
+       kUnencodableHeader.arg(u"4"_s, bad) + nothing, true, "old"},
+      {"NoSuchDirectory", date, ok, 0, ok, "out/missing", FileOutcome::kFailed,
        failed + u"2\r\n"_s + texts::kErrorDescription + kDirectoryMissing, true, "old"},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -62,14 +64,19 @@ TEST(CreateFile, EveryWayOutOfARun) {
       EmployerRow header;
       header.id = 1;
       header.CreateFlDate = c.date;
+      header.employer_name = c.employer;
       InsertRow(db, header);
     }
-    EmployeeRow line;
-    line.id = 1;
-    line.row_num = 1;
-    line.insured_id = u"123456789"_s;
-    line.surname = c.line_name;
-    InsertRow(db, line);
+    Transaction transaction(db);
+    for (int row = 1; row <= c.good_lines + 1; ++row) {
+      EmployeeRow line;
+      line.id = 1;
+      line.row_num = row;
+      line.insured_id = QString::number(row <= c.good_lines ? 100'000'000 + row : 123'456'789);
+      line.surname = row <= c.good_lines ? ok : c.surname;
+      InsertRow(db, line);
+    }
+    transaction.Commit();
     QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
     QFile old(out + u"/CSL01"_s);

@@ -341,6 +341,20 @@ TEST_F(VolumeWriterTest, ConstructionVolumesBreakAtTheirSize) {
                                                    "02");
 }
 
+// A line that brings the volume to exactly 1,400,000 bytes with its margin
+// still goes into it: 615 + 40 * 181 + 14651 * 95 + 300 = 1,400,000.
+TEST_F(VolumeWriterTest, ALineAtTheExactMarginStaysInTheVolume) {
+  {
+    Transaction transaction(db());
+    for (int i = 1; i <= 14'652; ++i) {
+      Line<ConEmployeeRow>(i, QString::number(i < 40 ? 100'000'000 + i : 999'999'999));
+    }
+    transaction.Commit();
+  }
+  const MemoryVolumes volumes = Write<ConEmployerRow>(Kind::Construction);
+  EXPECT_EQ(volumes.volumes.size(), 1u);
+}
+
 // A person whose lines go on in the next volume is named again at its top.
 TEST_F(VolumeWriterTest, APersonGoingOnInANewVolumeIsNamedAgain) {
   {
