@@ -39,7 +39,6 @@ class FakeDialogs : public Dialogs {
   }
 
   SearchAnswer AskInsuredPerson() override {
-    ++searches_asked;
     if (searches.empty()) return {};
     const SearchAnswer answer = searches.front();
     searches.pop_front();
@@ -55,7 +54,6 @@ class FakeDialogs : public Dialogs {
   std::vector<bool> busy_calls;
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
-  int searches_asked = 0;
 };
 
 class FakeScreens : public Screens {
