@@ -51,7 +51,6 @@ inline void TypeInto(const QWidget& window, const QString& name, const QString& 
   edit->selectAll();
   Key(*edit, Qt::Key_Backspace);
   for (const QChar c : text) Key(*edit, c.unicode(), QString(c));
-  QApplication::processEvents();
 }
 
 // The name of the widget that has the window's focus.

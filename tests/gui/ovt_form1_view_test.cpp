@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -95,6 +96,7 @@ TEST_F(OvtForm1ViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAs
   ExpectNothingCut(*view);
 
   TypeInto(*view, u"Text10"_s, u"ΑΛΛΗ ΠΟΛΗ ΜΕ ΠΟΛΥ ΜΑΚΡΥ ΟΝΟΜΑ ΕΔΩ"_s);
+  QApplication::processEvents();
   Click(*view, u"CancelCmd"_s);  // the stored values come back, from their start
   for (const char* name : {"Text3", "Text4", "Text7", "Text10"}) {
     EXPECT_EQ(Get(QString::fromLatin1(name))->cursorPosition(), 0) << name;
@@ -122,7 +124,10 @@ TEST_F(OvtForm1BoxTest, TypingAndSavingStoresTheHeaderUnderTheLockedScreen) {
       {u"Text2"_s, u"123"_s},        {u"Text3"_s, u"Αθήνα"_s},     {u"Text4"_s, u"Εταιρεία"_s},
       {u"Text5"_s, u"1234567890"_s}, {u"Text6"_s, u"123456789"_s}, {u"Text7"_s, u"Οδός"_s},
       {u"Text9"_s, u"12345"_s},      {u"Text10"_s, u"Πόλη"_s},     {u"FlDateTxt"_s, u"05032002"_s}};
-  for (const auto& [name, text] : typed) TypeInto(*view, name, text);
+  for (const auto& [name, text] : typed) {
+    TypeInto(*view, name, text);
+    QApplication::processEvents();
+  }
   QString message;
   bool correct_shown = false;
   bool text2_enabled = true;
