@@ -39,6 +39,7 @@ class FakeDialogs : public Dialogs {
   }
 
   SearchAnswer AskInsuredPerson() override {
+    ++searches_asked;
     if (searches.empty()) return {};
     const SearchAnswer answer = searches.front();
     searches.pop_front();
@@ -54,6 +55,7 @@ class FakeDialogs : public Dialogs {
   std::vector<bool> busy_calls;
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
+  int searches_asked = 0;
 };
 
 class FakeScreens : public Screens {
