@@ -33,11 +33,9 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
   ASSERT_FALSE(first.isNull());
   EXPECT_TRUE(first->isVisible());
 
-  using Show = void (*)(AppScreens&);
-  for (const Show show : {+[](AppScreens& s) { s.ShowHeader(Kind::Construction); },
-                          +[](AppScreens& s) { s.ShowLines(Kind::Construction); }}) {
+  for (const bool header : {true, false}) {
     dialogs.messages.clear();
-    show(screens);
+    header ? screens.ShowHeader(Kind::Construction) : screens.ShowLines(Kind::Construction);
     ASSERT_EQ(dialogs.messages.size(), 1u);
     EXPECT_EQ(dialogs.messages[0].text, texts::kNotAvailableYet);
     EXPECT_EQ(dialogs.messages[0].title, texts::kAppTitle);
@@ -51,22 +49,19 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
   EXPECT_TRUE(store.vars.StoreOpen);
   EXPECT_FALSE(screens.QuitStatus().has_value());
 
-  // The common-business header screen is built: it opens instead of the
-  // start screen, with nothing to say.
+  // The common-business header and employee screens are built: they open
+  // instead of the start screen, with nothing to say (the employee screen in
+  // new mode, without lines).
   dialogs.messages.clear();
   store.vars.DeclarationId = 1;
-  store.vars.PeriodFrom = QStringLiteral("012002");
-  store.vars.PeriodTo = QStringLiteral("012002");
-  screens.ShowHeader(Kind::Common);
-  EXPECT_TRUE(dialogs.messages.empty());
-  ASSERT_NE(screens.Current(), nullptr);
-  EXPECT_EQ(screens.Current()->findChild<QWidget*>(QStringLiteral("SaveCmd"))->isVisible(), true);
-  // So is the common-business employee screen, in new mode without lines.
-  screens.ShowLines(Kind::Common);
-  EXPECT_TRUE(dialogs.messages.empty());
-  ASSERT_NE(screens.Current(), nullptr);
-  EXPECT_EQ(screens.Current()->findChild<QWidget*>(QStringLiteral("OkCmd"))->isVisible(), true);
-
+  store.vars.PeriodFrom = store.vars.PeriodTo = QStringLiteral("012002");
+  for (const bool header : {true, false}) {
+    header ? screens.ShowHeader(Kind::Common) : screens.ShowLines(Kind::Common);
+    EXPECT_TRUE(dialogs.messages.empty());
+    ASSERT_NE(screens.Current(), nullptr);
+    const auto* entry = screens.Current()->findChild<QWidget*>(header ? "SaveCmd" : "OkCmd");
+    EXPECT_TRUE(entry != nullptr && entry->isVisible());
+  }
   QPointer<QWidget> last = screens.Current();
   screens.Quit(0);
   EXPECT_EQ(screens.QuitStatus(), 0);

@@ -30,17 +30,13 @@ TEST(QtDialogsTest, LineBreaksAreShownAsLineBreaks) {
 // The store errors a user can meet are told in Greek, any other in SQLite's
 // words; the number stays.
 TEST(StoreErrorTexts, TheErrorsAUserMeetsAreToldInGreek) {
-  const std::pair<int, const QString*> cases[] = {{26, &texts::kStoreNotADatabase},
-                                                  {8, &texts::kStoreReadOnly},
-                                                  {5, &texts::kStoreInUse},
-                                                  {6, &texts::kStoreInUse},
-                                                  {13, &texts::kStoreDiskFull},
-                                                  {11, &texts::kStoreDamaged},
-                                                  {14, &texts::kStoreCannotOpen},
-                                                  {10, &texts::kStoreIoError},
-                                                  {266, &texts::kStoreIoError},
-                                                  {19, nullptr},
-                                                  {1, nullptr}};
+  // clang-format off
+  const std::pair<int, const QString*> cases[] = {
+      {26, &texts::kStoreNotADatabase}, {8, &texts::kStoreReadOnly}, {5, &texts::kStoreInUse},
+      {6, &texts::kStoreInUse}, {13, &texts::kStoreDiskFull}, {11, &texts::kStoreDamaged},
+      {14, &texts::kStoreCannotOpen}, {10, &texts::kStoreIoError}, {266, &texts::kStoreIoError},
+      {19, nullptr}, {1, nullptr}};
+  // clang-format on
   const QString sqlite = u"what SQLite says"_s;
   for (const auto& [code, greek] : cases) {
     EXPECT_EQ(ErrorMessage(u"L"_s, StoreError{code, sqlite}),
@@ -80,24 +76,15 @@ struct BoxCase {
 };
 
 TEST(QtDialogsTest, BoxesShowTheirTextTitleAndGreekButtons) {
-  const BoxCase cases[] = {{std::nullopt,
-                            header_texts::kStopDateNotIn03,
-                            texts::kAppTitle,
-                            {u"OK"_s},
-                            QMessageBox::NoIcon,
-                            false},
-                           {AskStyle::Plain,
-                            texts::kStoreCritical + u'\r' + texts::kErrorCode,
-                            header_texts::kSaveTitle,
-                            {texts::kYes, texts::kNo},
-                            QMessageBox::NoIcon,
-                            true},
-                           {AskStyle::Question,
-                            header_texts::kCloseQuestion,
-                            header_texts::kOvtForm1CloseTitle,
-                            {texts::kYes, texts::kNo},
-                            QMessageBox::Question,
-                            false}};
+  // clang-format off
+  const BoxCase cases[] = {
+      {std::nullopt, header_texts::kStopDateNotIn03, texts::kAppTitle, {u"OK"_s},
+       QMessageBox::NoIcon, false},
+      {AskStyle::Plain, texts::kStoreCritical + u'\r' + texts::kErrorCode,
+       header_texts::kSaveTitle, {texts::kYes, texts::kNo}, QMessageBox::NoIcon, true},
+      {AskStyle::Question, header_texts::kCloseQuestion, header_texts::kOvtForm1CloseTitle,
+       {texts::kYes, texts::kNo}, QMessageBox::Question, false}};
+  // clang-format on
   QtDialogs dialogs(false);
   const QFontMetrics metrics(QApplication::font());
   QFont bold = QApplication::font();

@@ -12,17 +12,24 @@ namespace {
 using namespace lines_texts;
 using Lines = std::vector<std::tuple<int, QString, QString>>;
 
-TEST_F(OvtForm2Test, OpensInNewModeWithoutLinesAndCancelStaysThere) {
+// A failed check stores nothing and keeps the mode; so does Cancel without
+// lines, keeping what was typed.
+TEST_F(OvtForm2Test, OpensInNewModeWithoutLinesAndStaysThere) {
   Open();
   EXPECT_EQ(Mode(), u"new"_s);
   EXPECT_EQ(form_->Text(u"Text39"_s), u"0"_s);
   EXPECT_EQ(form_->Text(u"Text27"_s), kYes);
   EXPECT_EQ(form_->Text(u"Text34"_s), kEmptyDateBox);
-  form_->Type(u"Text21"_s, u"x"_s);
+  TypeValidLine();
+  form_->Type(u"Text19"_s, u"12"_s);
+  form_->OkCmd_Click();
+  EXPECT_EQ(Stored(), Lines{});
+  EXPECT_EQ(Mode(), u"new"_s);
+  EXPECT_FALSE(form_->HasLines());
   form_->CancelCmd_Click();
   EXPECT_EQ(Mode(), u"new"_s);
   EXPECT_EQ(form_->FocusedField(), u"Text18_1"_s);
-  EXPECT_EQ(form_->Text(u"Text21"_s), u"x"_s);
+  EXPECT_EQ(form_->Text(u"Text21"_s), u"Παπαδάκης"_s);
 }
 
 TEST_F(OvtForm2Test, ModesFollowTheButtons) {
@@ -131,16 +138,6 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
         << name.toStdString();
   }
   EXPECT_FALSE(dialogs_.busy);
-}
-
-TEST_F(OvtForm2Test, AFailedCheckStoresNothingAndKeepsTheMode) {
-  Open();
-  TypeValidLine();
-  form_->Type(u"Text19"_s, u"12"_s);
-  form_->OkCmd_Click();
-  EXPECT_EQ(Stored(), Lines{});
-  EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_FALSE(form_->HasLines());
 }
 
 TEST_F(OvtForm2Test, CorrectsTheLineFoundByItsRememberedKey) {

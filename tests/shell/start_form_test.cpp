@@ -4,7 +4,6 @@
 // that may take over the lines of the highest id of the kind.
 
 #include <gtest/gtest.h>
-#include <sqlcipher/sqlite3.h>
 
 #include <QDir>
 #include <QFile>
