@@ -175,29 +175,6 @@ TEST(VolumeFields, PlainValuesAsTheFormatsMakeThem) {
   EXPECT_EQ(out.size(), 4);
 }
 
-// Every record is its fields side by side: each field starts where the one
-// before ends, and the record has its fixed size.
-TEST(VolumeFields, RecordsAreTheirFieldsSideBySide) {
-  for (const Kind kind : {Kind::Common, Kind::Construction}) {
-    const VolumeLayout& layout = VolumeLayoutOf(kind);
-    const struct {
-      const std::vector<VolumeField>& fields;
-      int first;  // where the fields start
-      int end;    // the column after the last field
-    } records[] = {{layout.header, 16, layout.header_bytes - 2 - layout.reserved + 1},
-                   {layout.person, 2, layout.person_bytes - 2 + 1},
-                   {layout.line, 2, layout.line_bytes - 2 + 1}};
-    for (const auto& record : records) {
-      int start = record.first;
-      for (const VolumeField& field : record.fields) {
-        EXPECT_EQ(field.start, start) << field.column;
-        start += field.width;
-      }
-      EXPECT_EQ(start, record.end);
-    }
-  }
-}
-
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
   // The surname is written as stored, lower case and accents too; the paid
   // contributions are longer than their field and are written whole.
