@@ -175,6 +175,21 @@ TEST(VolumeFields, PlainValuesAsTheFormatsMakeThem) {
   EXPECT_EQ(out.size(), 4);
 }
 
+// Each field starts where the one before it ends.
+TEST(VolumeFields, StartsFollowTheWidths) {
+  for (const Kind kind : {Kind::Common, Kind::Construction}) {
+    const VolumeLayout& layout = VolumeLayoutOf(kind);
+    for (const auto& [fields, start] :
+         {std::pair{&layout.header, 16}, {&layout.person, 2}, {&layout.line, 2}}) {
+      int next = start;
+      for (const VolumeField& field : *fields) {
+        EXPECT_EQ(field.start, next) << field.column;
+        next = field.start + field.width;
+      }
+    }
+  }
+}
+
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
   // The surname is written as stored, lower case and accents too; the paid
   // contributions are longer than their field and are written whole.
