@@ -59,8 +59,8 @@ void AppScreens::ShowLines(Kind kind) {
   form->Load();
   auto next = std::make_unique<Shown>();
   next->view = std::make_unique<LinesView>(*form, CommonLinesRows(),
-                                           QRect(OvtForm2::kLeftTwips, OvtForm2::kTopTwips,
-                                                 OvtForm2::kWidthTwips, OvtForm2::kHeightTwips));
+                                           QRect(LinesForm::kLeftTwips, LinesForm::kTopTwips,
+                                                 LinesForm::kWidthTwips, LinesForm::kHeightTwips));
   next->form = std::move(form);
   Show(std::move(next));
 }

@@ -82,6 +82,11 @@ HeaderCheck IfFilled(const Form& form, const QString& field, HeaderCheck check) 
   };
 }
 
+HeaderCheck IntegerCheckIfFilled(const Form& form, const QString& field, const QString& name,
+                                 int digits, bool exact) {
+  return IfFilled(form, field, IntegerCheck(form, field, name, digits, exact, OnFault::Select));
+}
+
 HeaderCheck DateFilledCheck(const Form& form, const QString& field, const QString& message) {
   return [&form, field, message]() -> std::optional<FieldFault> {
     if (!DateBoxIsEmpty(form.Text(field))) return std::nullopt;

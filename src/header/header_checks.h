@@ -48,6 +48,9 @@ HeaderCheck DecimalCheck(const Form& form, const QString& field, const QString& 
 HeaderCheck NamedCheck(const Form& form, const QString& field, const QString& name);
 // CheckDate on a date box's full text, only when something is typed; selects.
 HeaderCheck DateBoxCheck(const Form& form, const QString& field, const QString& name);
+// CheckInteger, only when the field's trimmed text is not empty; selects.
+HeaderCheck IntegerCheckIfFilled(const Form& form, const QString& field, const QString& name,
+                                 int digits, bool exact);
 // The rule applies only when the field's trimmed text is not empty.
 HeaderCheck IfFilled(const Form& form, const QString& field, HeaderCheck check);
 // A date box must hold a typed character; only focuses.

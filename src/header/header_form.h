@@ -111,4 +111,19 @@ class HeaderForm : public Form {
   QString icon_path_;
 };
 
+// A header screen over the header table whose rows are of type Row.
+template <class Row>
+class HeaderFormOf : public HeaderForm {
+ public:
+  using HeaderForm::HeaderForm;
+
+ protected:
+  std::optional<ColumnValues> ReadHeaderRow(int id) override {
+    return ReadHeaderColumns<Row>(*vars_.StoreConnection, id);
+  }
+  int WriteHeaderRow(int id, const ColumnValues& values, bool insert) override {
+    return WriteHeaderColumns<Row>(*vars_.StoreConnection, id, values, insert);
+  }
+};
+
 }  // namespace veroxia

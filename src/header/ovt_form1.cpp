@@ -129,7 +129,7 @@ const HeaderLayout& OvtForm1::CommonLayout() {
 }
 
 OvtForm1::OvtForm1(Vars& vars, Dialogs& dialogs, Screens& screens)
-    : HeaderForm(vars, dialogs, screens, CommonLayout()) {}
+    : HeaderFormOf(vars, dialogs, screens, CommonLayout()) {}
 
 bool OvtForm1::ValidateHeader() {
   constexpr OnFault kSelect = OnFault::Select;
@@ -174,14 +174,6 @@ void OvtForm1::ShowMonthLabels() {
   if (static_cast<int>(LeadingValue(to_month)) == first) return;
   At(u"Text13_2"_s).text = QString::number(first + 1).rightJustified(2, u'0') + u'/' + from_year;
   At(u"Text13_3"_s).text = to_month + u'/' + Text(u"Text12_2"_s);
-}
-
-std::optional<ColumnValues> OvtForm1::ReadHeaderRow(int id) {
-  return ReadHeaderColumns<EmployerRow>(*vars_.StoreConnection, id);
-}
-
-int OvtForm1::WriteHeaderRow(int id, const ColumnValues& values, bool insert) {
-  return WriteHeaderColumns<EmployerRow>(*vars_.StoreConnection, id, values, insert);
 }
 
 }  // namespace veroxia

@@ -5,10 +5,11 @@
 // contributions, stored in one row of QOR_EMPLOYERS.
 
 #include "header/header_form.h"
+#include "store/schema.h"
 
 namespace veroxia {
 
-class OvtForm1 : public HeaderForm {
+class OvtForm1 : public HeaderFormOf<EmployerRow> {
  public:
   // Outer size and place on the screen, in twips; the size never changes.
   static constexpr int kLeftTwips = 500;
@@ -33,8 +34,6 @@ class OvtForm1 : public HeaderForm {
 
  protected:
   void AfterLoad() override { ShowMonthLabels(); }
-  std::optional<ColumnValues> ReadHeaderRow(int id) override;
-  int WriteHeaderRow(int id, const ColumnValues& values, bool insert) override;
 };
 
 }  // namespace veroxia

@@ -97,6 +97,38 @@ inline const QString kSaveFailed = u"ΠΡΟΣΟΧΗ!! Η αποθήκευση τ
 inline const QString kSaveDone = u"Η αποθήκευση των στοιχείων ήταν επιτυχής."_s;
 inline const QString kSaveTitle = u"ΕΙΣΑΓΩΓΗ ΣΤΟΙΧΕΙΩΝ ΕΡΓΟΔΟΤΗ"_s;
 
+// The construction-works header: what it shows and says where it differs.
+inline const QString kOvtForm3Title = u"ΒΕΡΟΞΙΑ ΟΙΚΟΔΟΜΟΤΕΧΝΙΚΟΥ ΕΡΓΟΥ"_s;
+inline const QString kSeatHeading = u"ΔΙΕΥΘΥΝΣΗ ΕΔΡΑΣ ΕΡΓΟΔΟΤΗ"_s;
+inline const QString kConText5Lbl = u"ΟΔΟΣ (5)"_s;
+inline const QString kConText6Lbl = u"ΑΡΙΘΜΟΣ (6)"_s;
+inline const QString kConText7Lbl = u"ΤΚ (7)"_s;
+inline const QString kConText8Lbl = u"ΠΟΛΗ (8)"_s;
+inline const QString kConText9Lbl = u"ΕΙΔΟΣ ΕΡΓΟΥ(9)"_s;
+inline const QString kConText10Lbl = u"Α.Μ.Ε. (10)"_s;
+inline const QString kConText11Lbl = u"Α.Μ.Ο.Ε  (11)"_s;
+inline const QString kConText12Lbl = u"Α.Φ.Μ.  (12)"_s;
+inline const QString kSiteHeading = u"ΔΙΕΥΘΥΝΣΗ ΕΡΓΟΥ"_s;
+inline const QString kConText13Lbl = u"ΟΔΟΣ (13)"_s;
+inline const QString kConText14Lbl = u"ΑΡΙΘΜΟΣ (14)"_s;
+inline const QString kConText15Lbl = u"ΤΚ (15)"_s;
+inline const QString kConText16Lbl = u"ΠΟΛΗ (16)"_s;
+inline const QString kConText17Lbl = u"ΜΗΝΑΣ/ΕΤΟΣ (17)       (MM/EEEE)"_s;
+inline const QString kConTotalsHeading = u"ΣΥΝΟΛΑ ΞΡΦ"_s;
+inline const QString kConText18Lbl = u"ΑΠΟΔΟΧΩΝ* (18)"_s;
+inline const QString kConText19Lbl = u"ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ (19)"_s;
+inline const QString kConText20Lbl = u"ΕΙΣΦΟΡΩΝ  (20)"_s;
+inline const QString kConType02Caption = u"02 ΕΚΤΑΚΤΗ"_s;
+inline const QString kConType03Caption = u" 03 ΕΠΑΝΥΠΟΒΟΛΗ"_s;
+inline const QString kConExitCmd = u"Έξοδος"_s;
+inline const QString kConCloseTitle = u"ΕΙΣΑΓΩΓΗ ΣΤΟΙΧΕΙΩΝ ΕΡΓΑΔΟΤΩΝ"_s;
+inline const QString kEmpCityBlank = u"ΠΡΟΣΟΧΗ!! Το πεδίο 'ΠΟΛΗ' πρέπει να συμπληρωθεί."_s;
+inline const QString kConDescrBlank = u"ΠΡΟΣΟΧΗ!! Το πεδίο 'ΕΙΔΟΣ ΕΡΓΟΥ' πρέπει να συμπληρωθεί."_s;
+inline const QString kNameAmoe = u"A.M.O.E."_s;
+inline const QString kNameWorkDays = u"ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ"_s;
+inline const QString kNameConContributions = u"ΕΙΣΦΟΡΩΝ"_s;
+inline const QString kConSaveErrorFirstLine = u"ΠΡΟΣΟΧΗ!! Παρουσιάστηκε πρόβλημα!"_s;
+
 // Our own texts, for what the program must still answer clearly.
 inline const QString kNotAvailable = u"Η λειτουργία αυτή δεν είναι ακόμη διαθέσιμη."_s;
 inline const QString kLoadFailed = u"Παρουσιάστηκε πρόβλημα στην ανάγνωση των στοιχείων του εργοδότη."_s;

@@ -250,7 +250,8 @@ void LinesForm::ShowRememberedLine() {
 void LinesForm::EnterNewMode() {
   SetEntryButtons();
   EnableLineFields(true);
-  GotFocus(FirstField());
+  // Where ClearFields moves the focus itself, it is left to it.
+  if (!layout_.clear_moves_focus) GotFocus(FirstField());
   has_lines_ = false;
   edit_mode_ = false;
   new_mode_ = true;

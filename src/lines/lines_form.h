@@ -31,6 +31,13 @@ std::optional<ColumnValues> LineColumnValues(const std::optional<StoredLine<Row>
 
 class LinesForm : public Form {
  public:
+  // Outer size and place of either kind's window, in twips; the size never
+  // changes.
+  static constexpr int kLeftTwips = 500;
+  static constexpr int kTopTwips = 100;
+  static constexpr int kWidthTwips = 10320;
+  static constexpr int kHeightTwips = 8175;
+
   LinesForm(Vars& vars, Dialogs& dialogs, Screens& screens, const LinesLayout& layout);
 
   void Load();
@@ -113,6 +120,26 @@ class LinesForm : public Form {
   QString current_row_num_;
   qint64 current_rowid_ = 0;
   QString icon_path_;
+};
+
+// A line screen over the lines table whose rows are of type Row.
+template <class Row>
+class LinesFormOf : public LinesForm {
+ public:
+  using LinesForm::LinesForm;
+
+ protected:
+  std::optional<ColumnValues> ReadLine(qint64 rowid) override {
+    return LineColumnValues(SelectLineAt<Row>(*vars_.StoreConnection, rowid));
+  }
+  void InsertLine(int id, int row_num, const ColumnValues& values) override {
+    Row row = RowOf<Row>(id, values);
+    row.row_num = row_num;
+    InsertRow(*vars_.StoreConnection, row);
+  }
+  int UpdateLineRow(const LineAddress& address, const ColumnValues& values) override {
+    return UpdateLineAt(*vars_.StoreConnection, address, RowOf<Row>(address.id, values));
+  }
 };
 
 }  // namespace veroxia

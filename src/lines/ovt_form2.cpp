@@ -109,7 +109,7 @@ const LinesLayout& OvtForm2::CommonLayout() {
 }
 
 OvtForm2::OvtForm2(Vars& vars, Dialogs& dialogs, Screens& screens)
-    : LinesForm(vars, dialogs, screens, CommonLayout()) {}
+    : LinesFormOf(vars, dialogs, screens, CommonLayout()) {}
 
 bool OvtForm2::CheckLine() {
   constexpr OnFault kSelect = OnFault::Select;
@@ -128,10 +128,8 @@ bool OvtForm2::CheckLine() {
       {
           IntegerCheck(form, u"Text18_1"_s, kNameBranch, 4, true, kSelect),
           IntegerCheck(form, u"Text18_2"_s, kNameKad, 4, true, kSelect),
-          IfFilled(form, u"Text19"_s,
-                   IntegerCheck(form, u"Text19"_s, kNameInsuredId, 9, true, kSelect)),
-          IfFilled(form, u"Text20"_s,
-                   IntegerCheck(form, u"Text20"_s, kNameAmka, 11, true, kSelect)),
+          IntegerCheckIfFilled(form, u"Text19"_s, kNameInsuredId, 9, true),
+          IntegerCheckIfFilled(form, u"Text20"_s, kNameAmka, 11, true),
           FilledCheck(form, u"Text21"_s, kSurnameBlank, kFocus),
           NamedCheck(form, u"Text21"_s, kNameSurname),
           FilledCheck(form, u"Text22"_s, kNameBlank, kFocus),
@@ -147,8 +145,7 @@ bool OvtForm2::CheckLine() {
           ChoiceCheck(form, u"Text28"_s, kAllDaysBlank, kAllDaysYesNo, yes_no),
           IntegerCheck(form, u"Text29"_s, kNameSundays, 1, true, kSelect),
           IntegerCheck(form, u"Text30"_s, kNameCategory, 6, false, kSelect),
-          IfFilled(form, u"Text31"_s,
-                   IntegerCheck(form, u"Text31"_s, kNameSpecial, 2, false, kSelect)),
+          IntegerCheckIfFilled(form, u"Text31"_s, kNameSpecial, 2, false),
           IntegerCheck(form, u"Text32"_s, kNameCover, 4, false, kSelect),
           [&form] { return MonthFault(form.Text(u"Text33_1"_s)); },
           [&form] { return YearFault(form.Text(u"Text33_2"_s)); },
@@ -167,20 +164,6 @@ bool OvtForm2::CheckLine() {
           DecimalCheck(form, u"Text45"_s, kNameEmpSubsidy, 8, kSelect),
           DecimalCheck(form, u"Text46"_s, kNamePayed, 9, kSelect),
       });
-}
-
-std::optional<ColumnValues> OvtForm2::ReadLine(qint64 rowid) {
-  return LineColumnValues(SelectLineAt<EmployeeRow>(*vars_.StoreConnection, rowid));
-}
-
-void OvtForm2::InsertLine(int id, int row_num, const ColumnValues& values) {
-  EmployeeRow row = RowOf<EmployeeRow>(id, values);
-  row.row_num = row_num;
-  InsertRow(*vars_.StoreConnection, row);
-}
-
-int OvtForm2::UpdateLineRow(const LineAddress& address, const ColumnValues& values) {
-  return UpdateLineAt(*vars_.StoreConnection, address, RowOf<EmployeeRow>(address.id, values));
 }
 
 }  // namespace veroxia

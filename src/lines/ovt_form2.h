@@ -3,17 +3,12 @@
 // per employee, payroll month and wage type, stored as rows of QOR_EMPLOYEES.
 
 #include "lines/lines_form.h"
+#include "store/schema.h"
 
 namespace veroxia {
 
-class OvtForm2 : public LinesForm {
+class OvtForm2 : public LinesFormOf<EmployeeRow> {
  public:
-  // Outer size and place on the screen, in twips; the size never changes.
-  static constexpr int kLeftTwips = 500;
-  static constexpr int kTopTwips = 100;
-  static constexpr int kWidthTwips = 10320;
-  static constexpr int kHeightTwips = 8175;
-
   OvtForm2(Vars& vars, Dialogs& dialogs, Screens& screens);
 
   // The fields, captions and texts of this screen.
@@ -21,11 +16,6 @@ class OvtForm2 : public LinesForm {
 
   // The 36 rules, in order; the first failure is reported.
   bool CheckLine() override;
-
- protected:
-  std::optional<ColumnValues> ReadLine(qint64 rowid) override;
-  void InsertLine(int id, int row_num, const ColumnValues& values) override;
-  int UpdateLineRow(const LineAddress& address, const ColumnValues& values) override;
 };
 
 }  // namespace veroxia

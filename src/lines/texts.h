@@ -113,6 +113,43 @@ inline const QString kPersonNotFoundEnd = u"' δέν βρέθηκε."_s;
 inline const QString kInsuredIdNotFound = u"Ο ΑΡΙΘΜΟΣ ΜΗΤΡΩΟΥ ΑΣΦΑΛΙΖΟΜΕΝΟΥ δέν βρέθηκε."_s;
 inline const QString kStoreProblem = u"ΠΡΟΣΟΧΗ!! Παρουσιάστηκε πρόβλημα!"_s;
 inline const QString kNameAmka = u"A.M.K.A"_s;
+// The construction-works worker screen: what it shows and says where it differs.
+inline const QString kOvtForm4Title = u"ΒΕΡΟΞΙΑ ΟΙΚΟΔΟΜΟΤΕΧΝΙΚΩΝ ΕΡΓΟΥ"_s;
+inline const QString kConLbl21 = u"ΥΠΟΚΑΤΑΣΤΗΜΑ ΟΒΤ ΕΚΤΕΛΕΣΗΣ ΕΡΓΟΥ (21)"_s;
+inline const QString kConLbl22 = u"ΑΡΙΘΜ.ΜΗΤΡΩΟΥΜ.ΑΣΦ. (22)"_s;
+inline const QString kConLbl23 = u"Α.Μ.Κ.Α (23)"_s;
+inline const QString kConLbl24 = u"ΕΠΩΝΥΜΟ (24)"_s;
+inline const QString kConLbl25 = u"ΟΝΟΜΑ (25)"_s;
+inline const QString kConLbl26 = u"ΟΝ. ΠΑΤΡΟΣ  (26)"_s;
+inline const QString kConLbl27 = u"ΟΝ. ΜΗΤΡΟΣ (27)"_s;
+inline const QString kConLbl28 = u"ΗΜ/ΝΙΑ ΓΕΝΝΗΣΗΣ (28)        (ΗΗ/ΜΜ/ΕΕΕΕ)  "_s;
+inline const QString kConLbl29 = u"Α.Φ.Μ. (29)"_s;
+inline const QString kConLbl30 = u"ΑΓΓΑΜΟΣ/ΕΓΓΑΜΟΣ (30)"_s;
+inline const QString kConLbl31 = u"ΑΡΙΘΜΟΣ ΤΡΙΕΤΙΩΝ (31)"_s;
+inline const QString kConLbl32 = u"ΚΥΡΙΑΚΕΣ (32)"_s;
+inline const QString kConLbl33 = u"ΚΩΔΙΚΟΣ ΕΙΔΙΚΟΤΗΤΑΣ (33)"_s;
+inline const QString kConLbl34 = u"ΕΙΔ. ΠΕΡΙΠΤ. ΑΣΦΑΛ. (34)"_s;
+inline const QString kConLbl35 = u"ΠΑΚΕΤΟ ΚΑΛΥΨΗΣ (35)"_s;
+inline const QString kConLbl36 = u"ΑΠΟ ΗΜ/ΝΙΑ ΑΠΑΣΧ. (36)"_s;
+inline const QString kConLbl37 = u"ΕΩΣ ΗΜ. ΑΠΑΣΧΟΛΗΣΗΣ (37)"_s;
+inline const QString kConLbl38 = u"ΤΥΠΟΣ ΑΠΟΔΟΧΩΝ (38)"_s;
+inline const QString kConLbl39 = u"ΗΜ. ΑΠΑΣΧΟΛΗΣΗΣ (39)"_s;
+inline const QString kConLbl40 = u"ΗΜΕΡΟΜΙΣΘΙΟ*  (40)"_s;
+inline const QString kConLbl41 = u"ΑΠΟΔΟΧΕΣ*  (41)"_s;
+inline const QString kConLbl42 = u"ΚΑΤΑΣΚ. ΦΑΣΗ     ή  ΕΡΓΑ ΔΗΜΟΣΙΟΥ (42)"_s;
+inline const QString kConLbl43 = u"ΗΜ. ΑΠΟΛΟΓΙΣΤΙΚΩΝ  (43)"_s;
+inline const QString kConLbl44 = u"ΕΙΣΦΟΡΕΣ ΑΣΦΑΛΙΣΜ.*  (44)"_s;
+inline const QString kConLbl45 = u"ΕΙΣΦΟΡΕΣ ΕΡΓΟΔΟΤΗ*  (45)"_s;
+inline const QString kConLbl46 = u"ΣΥΝΟΛΙΚΕΣ ΕΙΣΦΟΡΕΣ*  (46)"_s;
+inline const QString kMarried = u"ΕΓΓΑΜΟΣ"_s;
+inline const QString kUnmarried = u"ΑΓΑΜΟΣ"_s;
+inline const QString kNameConBranch = u"ΥΠΟΚΑΤΑΣΤΗΜΑ ΟΒΤ ΕΚΤΕΛΕΣΗΣ ΕΡΓΟΥ"_s;
+inline const QString kNameTriennia = u"ΑΡΙΘΜΟΣ ΤΡΙΕΤΙΩΝ"_s;
+inline const QString kNameWorkDays = u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ"_s;
+inline const QString kNamePhase = u"ΚΑΤΑΣΚΕΥΑΣΤΙΚΗ ΦΑΣΗ"_s;
+inline const QString kNameCostingDays = u"ΗΜ. ΑΠΟΛΟΓΙΣΤΙΚΩΝ"_s;
+inline const QString kConCannotDelete = u"ΠΡΟΣΟΧΗ!!Η έγγραφη δεν μπoρεί να διαγραφεί"_s;
+
 // Our own texts, for what the program must still answer clearly.
 inline const QString kLineGone = u"ΠΡΟΣΟΧΗ!! Η εγγραφή δεν βρέθηκε όπως εμφανίστηκε. Η διόρθωση δεν αποθηκεύτηκε."_s;
 // clang-format on
