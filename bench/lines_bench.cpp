@@ -1,6 +1,7 @@
-// The employee screen on a large payroll: opening its lines, browsing,
-// finding, inserting, and deleting with the renumbering of every later line,
-// beside the bare renumbering statement on the same store.
+// The employee screens of both kinds on a large payroll: opening the lines,
+// browsing, finding, inserting, and deleting with the renumbering of every
+// later line, beside the bare renumbering statement on the same store. The
+// argument of each benchmark is the kind: 0 common, 1 construction.
 
 #include <benchmark/benchmark.h>
 
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "lines/ovt_form2.h"
+#include "lines/ovt_form4.h"
 #include "payroll.h"
 #include "silent_ports.h"
 #include "store/store_file.h"
@@ -18,9 +20,13 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
+Kind KindOf(const benchmark::State& state) {
+  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
+}
+
 class Screen {
  public:
-  Screen() {
+  explicit Screen(Kind kind) : kind_(kind) {
     QFile::copy(PayrollFile(), StorePath(dir_.path()));
     vars.AppDir = dir_.path();
     vars.StoreConnection = Database::Open(StorePath(dir_.path()), StorePassword());
@@ -29,12 +35,18 @@ class Screen {
     vars.PeriodFrom = u"012002"_s;
     vars.PeriodTo = u"032002"_s;
   }
-  std::unique_ptr<OvtForm2> Open() {
-    auto form = std::make_unique<OvtForm2>(vars, dialogs, screens);
+  std::unique_ptr<LinesForm> Open() {
+    std::unique_ptr<LinesForm> form;
+    if (kind_ == Kind::Common) {
+      form = std::make_unique<OvtForm2>(vars, dialogs, screens);
+    } else {
+      form = std::make_unique<OvtForm4>(vars, dialogs, screens);
+    }
     form->Load();
     return form;
   }
 
+  Kind kind_;
   QTemporaryDir dir_;
   Vars vars;
   SilentDialogs dialogs;
@@ -42,13 +54,13 @@ class Screen {
 };
 
 void BM_OpenLinesAndShowFirst(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   for (auto _ : state) benchmark::DoNotOptimize(screen.Open());
 }
-BENCHMARK(BM_OpenLinesAndShowFirst)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_OpenLinesAndShowFirst)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_NextLine(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   for (auto _ : state) {
     form->Nextcmd_Click();
@@ -59,10 +71,10 @@ void BM_NextLine(benchmark::State& state) {
     }
   }
 }
-BENCHMARK(BM_NextLine)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_NextLine)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_PreviousLine(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   form->LastCmd_Click();
   for (auto _ : state) {
@@ -74,10 +86,10 @@ void BM_PreviousLine(benchmark::State& state) {
     }
   }
 }
-BENCHMARK(BM_PreviousLine)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_PreviousLine)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_FindByRegisterNumber(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   int person = 0;
   for (auto _ : state) {
@@ -87,10 +99,10 @@ void BM_FindByRegisterNumber(benchmark::State& state) {
   }
   if (screen.dialogs.messages != 0) state.SkipWithError("a register number was not found");
 }
-BENCHMARK(BM_FindByRegisterNumber)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_FindByRegisterNumber)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_FindBySurnamePrefix(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   int person = 0;
   for (auto _ : state) {
@@ -101,13 +113,15 @@ void BM_FindBySurnamePrefix(benchmark::State& state) {
   }
   if (screen.dialogs.messages != 0) state.SkipWithError("a surname was not found");
 }
-BENCHMARK(BM_FindBySurnamePrefix)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_FindBySurnamePrefix)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_InsertLine(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   form->NewCmd_Click();
-  const std::pair<const char*, QString> typed[] = {
+  using Typed = std::vector<std::pair<const char*, QString>>;
+  // clang-format off
+  const Typed common{
       {"Text18_1", u"0001"_s}, {"Text18_2", u"5510"_s},     {"Text19", u"999999999"_s},
       {"Text21", u"ΝΕΟΣ"_s},   {"Text22", u"ΝΕΟΣ"_s},       {"Text23", u"ΝΕΟΣ"_s},
       {"Text24", u"ΝΕΑ"_s},    {"Text25", u"01/01/1980"_s}, {"Text26", u"123456789"_s},
@@ -115,6 +129,15 @@ void BM_InsertLine(benchmark::State& state) {
       {"Text33_1", u"02"_s},   {"Text33_2", u"2002"_s},     {"Text36", u"01"_s},
       {"Text37", u"25"_s},
   };
+  const Typed construction{
+      {"Text22", u"999999999"_s}, {"Text24", u"ΝΕΟΣ"_s},  {"Text25", u"ΝΕΟΣ"_s},
+      {"Text26", u"ΝΕΟΣ"_s},      {"Text27", u"ΝΕΑ"_s},   {"Text28", u"01/01/1980"_s},
+      {"Text29", u"123456789"_s}, {"Text31", u"1"_s},     {"Text32", u"0"_s},
+      {"Text33", u"913000"_s},    {"Text35", u"101"_s},   {"Text38", u"01"_s},
+      {"Text39", u"25"_s},        {"Text40", u"40,5"_s},  {"Text41", u"1000"_s},
+  };
+  // clang-format on
+  const Typed& typed = screen.kind_ == Kind::Common ? common : construction;
   for (const auto& [name, text] : typed) form->Type(QString::fromLatin1(name), text);
   const int before = screen.dialogs.messages;
   for (auto _ : state) form->OkCmd_Click();
@@ -123,35 +146,36 @@ void BM_InsertLine(benchmark::State& state) {
   }
   benchmark::DoNotOptimize(before);
 }
-BENCHMARK(BM_InsertLine)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_InsertLine)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 // Deletes the first line (number 1) again and again: every other line of the
 // declaration moves one number down each time.
 void BM_DeleteFirstLine(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   for (auto _ : state) {
     if (form->CurrentRowNum() != u"1"_s) state.SkipWithError("the first line is not line 1");
     form->DeleteCmd_Click();
   }
 }
-BENCHMARK(BM_DeleteFirstLine)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_DeleteFirstLine)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(10);
 
 // The renumbering statement alone, on the same lines.
 void BM_BareRenumbering(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   Database& db = *screen.vars.StoreConnection;
   for (auto _ : state) {
-    db.Prepare("UPDATE QOR_EMPLOYEES SET row_num = row_num - 1 WHERE id = ? AND row_num > ?")
+    db.Prepare(QByteArray("UPDATE ") + TablesOf(screen.kind_).lines +
+               " SET row_num = row_num - 1 WHERE id = ? AND row_num > ?")
         .Bind(1, kPayrollId)
         .Bind(2, 1)
         .Run();
   }
 }
-BENCHMARK(BM_BareRenumbering)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(BM_BareRenumbering)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(10);
 
 void BM_DeleteLastLine(benchmark::State& state) {
-  Screen screen;
+  Screen screen(KindOf(state));
   auto form = screen.Open();
   for (auto _ : state) {
     state.PauseTiming();
@@ -160,6 +184,6 @@ void BM_DeleteLastLine(benchmark::State& state) {
     form->DeleteCmd_Click();
   }
 }
-BENCHMARK(BM_DeleteLastLine)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(BM_DeleteLastLine)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(20);
 
 }  // namespace
