@@ -133,29 +133,29 @@ bool OvtForm3::ValidateHeader() {
   constexpr OnFault kSelect = OnFault::Select;
   constexpr OnFault kFocus = OnFault::Focus;
   const Form& form = *this;
-  return RunHeaderChecks(*this, dialogs_,
-                         {
-                             IntegerCheck(form, kBranchCode, kNameOvtCode, 3, true, kSelect),
-                             FilledCheck(form, u"Text3"_s, kText3Blank, kSelect),
-                             FilledCheck(form, u"Text4"_s, kText4Blank, kSelect),
-                             NamedCheck(form, u"FirstNmTxt"_s, kNameFirstNm),
-                             NamedCheck(form, u"FatherNmTxt"_s, kNameFatherNm),
-                             FilledCheck(form, u"Text5"_s, kStreetBlank, kFocus),
-                             IntegerCheck(form, u"Text7"_s, kNameTk, 5, true, kFocus),
-                             FilledCheck(form, u"Text8"_s, kEmpCityBlank, kFocus),
-                             FilledCheck(form, u"Text9"_s, kConDescrBlank, kFocus),
-                             IntegerCheck(form, u"Text10"_s, kNameAme, 10, true, kSelect),
-                             IntegerCheck(form, u"Text11"_s, kNameAmoe, 10, true, kSelect),
-                             IntegerCheck(form, u"Text12"_s, kNameAfm, 9, true, kSelect),
-                             FilledCheck(form, u"Text13"_s, kStreetBlank, kFocus),
-                             IntegerCheck(form, u"Text15"_s, kNameTk, 5, true, kFocus),
-                             FilledCheck(form, u"Text16"_s, kCityBlank, kFocus),
-                             DecimalCheck(form, u"Text18"_s, kNameSalaries, 10, kSelect),
-                             IntegerCheck(form, u"Text19"_s, kNameWorkDays, 8, false, kSelect),
-                             DecimalCheck(form, u"Text20"_s, kNameConContributions, 10, kSelect),
-                             DateBoxCheck(form, u"FlDateTxt"_s, kNameFlDate),
-                             StopDateCheck(form, u"StopDateTxt"_s, SelectedType()),
-                         });
+  const std::vector<HeaderCheck> checks{
+      IntegerCheck(form, kBranchCode, kNameOvtCode, 3, true, kSelect),
+      FilledCheck(form, u"Text3"_s, kText3Blank, kSelect),
+      FilledCheck(form, u"Text4"_s, kText4Blank, kSelect),
+      NamedCheck(form, u"FirstNmTxt"_s, kNameFirstNm),
+      NamedCheck(form, u"FatherNmTxt"_s, kNameFatherNm),
+      FilledCheck(form, u"Text5"_s, kStreetBlank, kFocus),
+      IntegerCheck(form, u"Text7"_s, kNameTk, 5, true, kFocus),
+      FilledCheck(form, u"Text8"_s, kEmpCityBlank, kFocus),
+      FilledCheck(form, u"Text9"_s, kConDescrBlank, kFocus),
+      IntegerCheck(form, u"Text10"_s, kNameAme, 10, true, kSelect),
+      IntegerCheck(form, u"Text11"_s, kNameAmoe, 10, true, kSelect),
+      IntegerCheck(form, u"Text12"_s, kNameAfm, 9, true, kSelect),
+      FilledCheck(form, u"Text13"_s, kStreetBlank, kFocus),
+      IntegerCheck(form, u"Text15"_s, kNameTk, 5, true, kFocus),
+      FilledCheck(form, u"Text16"_s, kCityBlank, kFocus),
+      DecimalCheck(form, u"Text18"_s, kNameSalaries, 10, kSelect),
+      IntegerCheck(form, u"Text19"_s, kNameWorkDays, 8, false, kSelect),
+      DecimalCheck(form, u"Text20"_s, kNameConContributions, 10, kSelect),
+      DateBoxCheck(form, u"FlDateTxt"_s, kNameFlDate),
+      StopDateCheck(form, u"StopDateTxt"_s, SelectedType()),
+  };
+  return RunHeaderChecks(*this, dialogs_, checks);
 }
 
 QString OvtForm3::Shown(const HeaderField& field, const veroxia::Text& stored) const {

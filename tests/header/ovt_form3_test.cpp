@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 
 #include "header/date_box.h"
@@ -13,12 +12,12 @@
 #include "header/texts.h"
 #include "lines/ovt_form4_fixture.h"
 #include "lines/texts.h"
-#include "rules/checks.h"
 #include "shell/errors.h"
 #include "shell/start_form.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
 #include "support/fakes.h"
+#include "support/rule_chain.h"
 #include "support/store_rows.h"
 
 namespace veroxia::testing {
@@ -57,71 +56,39 @@ class OvtForm3Test : public ::testing::Test {
   std::unique_ptr<OvtForm3> form_;
 };
 
-using Says = std::function<Fault()>;
-Says Fixed(const QString& message) {
-  return [=] { return Fault(message); };
-}
-Says Integer(const QString& text, const QString& name, int digits, bool exact) {
-  return [=] { return CheckInteger(text, name, digits, exact); };
-}
-
-struct Rule {
-  const char* field;
-  QString bad;
-  Says says;
-  bool selects;
-  QString good;
-};
-
-// Every rule, in order, with a text it refuses and one it takes.
-const std::vector<Rule>& Rules() {
-  const QString bad_date = u"32/01/2003"_s;
-  const QString stop = u"15/05/2003"_s;
+// Every rule, in order, with a text it refuses and the one typed after.
+const std::vector<RuleStep>& Rules() {
   // clang-format off
-  static const std::vector<Rule> rules{
-      {"Text2", u"12"_s, Integer(u"12"_s, kNameOvtCode, 3, true), true, u"012"_s},
+  static const std::vector<RuleStep> rules{
+      {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s},
       {"Text3", u" "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
       {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s},
-      {"FirstNmTxt", u"Νίκος2"_s, [] { return CheckNoDigits(u"Νίκος2"_s, kNameFirstNm); }, true, u""_s},
-      {"FatherNmTxt", u"Γ1"_s, [] { return CheckNoDigits(u"Γ1"_s, kNameFatherNm); }, true, u"Γιώργος"_s},
+      {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
+      {"FatherNmTxt", u"Γ1"_s, NoDigits(kNameFatherNm), true, u"Γιώργος"_s},
       {"Text5", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s},
-      {"Text7", u"1043"_s, Integer(u"1043"_s, kNameTk, 5, true), false, u"10434"_s},
+      {"Text7", u"1043"_s, Integer(kNameTk, 5, true), false, u"10434"_s},
       {"Text8", u""_s, Fixed(kEmpCityBlank), false, u"Αθήνα"_s},
       {"Text9", u"  "_s, Fixed(kConDescrBlank), false, u"Πολυκατοικία"_s},
-      {"Text10", u"123"_s, Integer(u"123"_s, kNameAme, 10, true), true, u"1234567890"_s},
-      {"Text11", u"12345"_s, Integer(u"12345"_s, kNameAmoe, 10, true), true, u"0987654321"_s},
-      {"Text12", u"12345678"_s, Integer(u"12345678"_s, kNameAfm, 9, true), true, u"123456789"_s},
+      {"Text10", u"123"_s, Integer(kNameAme, 10, true), true, u"1234567890"_s},
+      {"Text11", u"12345"_s, Integer(kNameAmoe, 10, true), true, u"0987654321"_s},
+      {"Text12", u"12345678"_s, Integer(kNameAfm, 9, true), true, u"123456789"_s},
       {"Text13", u""_s, Fixed(kStreetBlank), false, u"Σόλωνος"_s},
-      {"Text15", u"abcde"_s, Integer(u"abcde"_s, kNameTk, 5, true), false, u"10672"_s},
+      {"Text15", u"abcde"_s, Integer(kNameTk, 5, true), false, u"10672"_s},
       {"Text16", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s},
-      {"Text18", u"1.000"_s, [] { return CheckDecimal(u"1.000"_s, kNameSalaries, 10); }, true, u"1000,5"_s},
-      {"Text19", u"1,5"_s, Integer(u"1,5"_s, kNameWorkDays, 8, false), true, u"25"_s},
-      {"Text20", u"x"_s, [] { return CheckDecimal(u"x"_s, kNameConContributions, 10); }, true, u"0"_s},
-      {"FlDateTxt", bad_date, [=] { return CheckDate(bad_date, kNameFlDate); }, true, kEmptyDateBox},
-      {"StopDateTxt", stop, Fixed(kStopDateNotIn01), true, kEmptyDateBox},
+      {"Text18", u"1.000"_s, Decimal(kNameSalaries, 10), true, u"1000,5"_s},
+      {"Text19", u"1,5"_s, Integer(kNameWorkDays, 8, false), true, u"25"_s},
+      {"Text20", u"x"_s, Decimal(kNameConContributions, 10), true, u"0"_s},
+      {"FlDateTxt", u"32/01/2003"_s, Date(kNameFlDate), true, kEmptyDateBox},
+      {"StopDateTxt", u"15/05/2003"_s, Fixed(kStopDateNotIn01), true, kEmptyDateBox},
   };
   // clang-format on
   return rules;
 }
 
-// Every rule, in order: a header wrong in every field is reported field by
-// field, each put right before the next save.
 TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
-  const std::vector<Rule>& rules = Rules();
   OvtForm3& form = Open();
-  for (const Rule& rule : rules) form.Type(QString::fromLatin1(rule.field), rule.bad);
-  for (const Rule& rule : rules) {
-    const QString field = QString::fromLatin1(rule.field);
-    SCOPED_TRACE(rule.field);
-    EXPECT_FALSE(form.ValidateHeader());
-    ASSERT_EQ(dialogs_.messages.size() > 0, true);
-    EXPECT_EQ(dialogs_.messages.back().text, *rule.says());
-    EXPECT_EQ(dialogs_.messages.back().title, texts::kAppTitle);
-    EXPECT_EQ(form.FocusedField(), field);
-    EXPECT_EQ(form.SelectionOf(field).has_value(), rule.selects);
-    form.Type(field, rule.good);
-  }
-  EXPECT_TRUE(form.ValidateHeader());
+  ExpectRulesInOrder(
+      form, dialogs_, [&form] { return form.ValidateHeader(); }, Rules());
   // Street numbers are not checked; an extraordinary declaration needs its
   // stop date here as well.
   form.Type(u"Text6"_s, u"x"_s);
@@ -260,7 +227,7 @@ TEST(ConstructionRoad, FromTheStartScreenToTheLinesAndBack) {
 
   OvtForm3 header(store.vars, dialogs, screens);
   header.Load();
-  for (const Rule& rule : Rules()) header.Type(QString::fromLatin1(rule.field), rule.good);
+  for (const RuleStep& rule : Rules()) header.Type(QString::fromLatin1(rule.field), rule.next);
   header.SaveCmd_Click();
   EXPECT_EQ(dialogs.LastMessage(), kSaveDone);
   header.QorConInsert_Click();

@@ -3,12 +3,10 @@
 // shown, the reading order, the focus after Clear and after the last delete,
 // the pointer before the insert message and its own delete message.
 
-#include <functional>
-
 #include "lines/ovt_form4_fixture.h"
 #include "lines/texts.h"
-#include "rules/checks.h"
 #include "shell/texts.h"
+#include "support/rule_chain.h"
 #include "support/store_rows.h"
 
 namespace veroxia::testing {
@@ -16,35 +14,11 @@ namespace {
 
 using namespace lines_texts;
 
-struct Rule {
-  const char* field;
-  QString bad;
-  std::function<Fault(const QString&)> says;
-  bool selects;
-  QString next;  // typed after the report: the valid text, or the next bad one
-};
-
-std::function<Fault(const QString&)> Fixed(const QString& message) {
-  return [=](const QString&) { return Fault(message); };
-}
-std::function<Fault(const QString&)> Integer(const QString& name, int digits, bool exact) {
-  return [=](const QString& text) { return CheckInteger(text, name, digits, exact); };
-}
-std::function<Fault(const QString&)> Decimal(const QString& name, int digits) {
-  return [=](const QString& text) { return CheckDecimal(text, name, digits); };
-}
-std::function<Fault(const QString&)> NoDigits(const QString& name) {
-  return [=](const QString& text) { return CheckNoDigits(text, name); };
-}
-std::function<Fault(const QString&)> Date(const QString& name) {
-  return [=](const QString& text) { return CheckDate(text, name); };
-}
-
 // A line wrong in every checked field is reported rule by rule, each field
 // put right (or wrong another way) before the next try.
 TEST_F(OvtForm4Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   // clang-format off
-  const Rule rules[] = {
+  const std::vector<RuleStep> rules{
       {"Text21", u"12"_s, Integer(kNameConBranch, 3, true), true, u""_s},
       {"Text22", u"1234"_s, Integer(kNameInsuredId, 9, true), true, u""_s},
       {"Text23", u"123"_s, Integer(kNameAmka, 11, true), true, u"12345678901"_s},
@@ -78,25 +52,9 @@ TEST_F(OvtForm4Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   };
   // clang-format on
   OvtForm4& form = Open();
-  QStringList typed;
-  for (const Rule& rule : rules) {
-    const QString field = QString::fromLatin1(rule.field);
-    if (!typed.contains(field)) form.Type(field, rule.bad);
-    typed << field;
-  }
   form.Type(u"Text30"_s, u"?"_s);  // the marital status is not checked
-  for (const Rule& rule : rules) {
-    const QString field = QString::fromLatin1(rule.field);
-    SCOPED_TRACE(rule.field);
-    EXPECT_FALSE(form.CheckLine());
-    ASSERT_FALSE(dialogs_.messages.empty());
-    EXPECT_EQ(dialogs_.LastMessage(), *rule.says(rule.bad));
-    EXPECT_EQ(dialogs_.messages.back().title, texts::kAppTitle);
-    EXPECT_EQ(form.FocusedField(), field);
-    EXPECT_EQ(form.SelectionOf(field).has_value(), rule.selects);
-    form.Type(field, rule.next);
-  }
-  EXPECT_TRUE(form.CheckLine());
+  ExpectRulesInOrder(
+      form, dialogs_, [&form] { return form.CheckLine(); }, rules);
 }
 
 // The pointer is back before the insert's message is shown.
