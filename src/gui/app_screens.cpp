@@ -4,8 +4,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include "gui/header_view.h"
 #include "gui/lines_view.h"
-#include "gui/ovt_form1_view.h"
 #include "gui/start_view.h"
 #include "lines/ovt_form2.h"
 #include "shell/texts.h"

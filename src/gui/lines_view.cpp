@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 constexpr double kFontPoints = 8.0;
 constexpr int kMarginTwips = 90;
-constexpr int kDateBoxChars = 10;
-const QString kDateMask = u"99/99/9999;_"_s;
 
 const LineField* FieldNamed(const LinesLayout& layout, const QString& name) {
   for (const LineField& field : layout.fields) {
@@ -146,8 +144,7 @@ QWidget* LinesView::Field(const LineField& field, QWidget* parent, bool stretch)
   }
   auto* edit = new QLineEdit(parent);  // owned by parent
   if (field.store == StoreAs::Date) {
-    edit->setInputMask(kDateMask);
-    FitToCharacters(*edit, kDateBoxChars);
+    MakeDateBox(*edit);
   } else if (!stretch) {
     FitToCharacters(*edit, field.max_length);
   }

@@ -8,7 +8,7 @@
 #include <QRadioButton>
 
 #include "gui/driver.h"
-#include "gui/ovt_form1_view.h"
+#include "gui/header_view.h"
 #include "gui/qt_dialogs.h"
 #include "header/texts.h"
 #include "store/rows.h"
