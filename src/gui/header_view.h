@@ -12,6 +12,7 @@
 
 #include "header/header_form.h"
 #include "header/ovt_form1.h"
+#include "header/ovt_form3.h"
 
 class QGridLayout;
 class QLabel;
@@ -77,10 +78,15 @@ class HeaderViewOf final : public HeaderView {
   void ArrangeFields(QWidget& frame, QVBoxLayout& column, QGridLayout& grid, int row) override;
 };
 
-// The common-business window; its arrangement stands in ovt_form1_view.cpp.
-using OvtForm1View = HeaderViewOf<OvtForm1>;
+// The two windows; each kind's arrangement stands in its own file.
+using OvtForm1View = HeaderViewOf<OvtForm1>;  // ovt_form1_view.cpp
+using OvtForm3View = HeaderViewOf<OvtForm3>;  // ovt_form3_view.cpp
 // The branch, the employer, the period and the table of months.
 template <>
 void OvtForm1View::ArrangeFields(QWidget& frame, QVBoxLayout& column, QGridLayout& grid, int row);
+// The branch, the employer and the seat, the project with its register
+// numbers and site, the month with the two dates, and the totals.
+template <>
+void OvtForm3View::ArrangeFields(QWidget& frame, QVBoxLayout& column, QGridLayout& grid, int row);
 
 }  // namespace veroxia
