@@ -4,11 +4,11 @@
 #include <QThread>
 #include <QTimer>
 
+#include "gui/header_view.h"
 #include "gui/lines_view.h"
-#include "gui/ovt_form1_view.h"
 #include "gui/start_view.h"
 #include "lines/ovt_form2.h"
-#include "shell/texts.h"
+#include "lines/ovt_form4.h"
 
 namespace veroxia {
 
@@ -35,34 +35,32 @@ void AppScreens::ShowStart() {
   Show(std::move(next));
 }
 
-void AppScreens::ShowHeader(Kind kind) {
-  if (kind == Kind::Construction) {
-    dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
-    ShowStart();
-    return;
-  }
-  auto form = std::make_unique<OvtForm1>(vars_, dialogs_, *this);
+template <class F, class V, class... Args>
+void AppScreens::Open(const Args&... args) {
+  auto form = std::make_unique<F>(vars_, dialogs_, *this);
   form->Load();
   auto next = std::make_unique<Shown>();
-  next->view = std::make_unique<OvtForm1View>(*form);
+  next->view = std::make_unique<V>(*form, args...);
   next->form = std::move(form);
   Show(std::move(next));
 }
 
-void AppScreens::ShowLines(Kind kind) {
+void AppScreens::ShowHeader(Kind kind) {
   if (kind == Kind::Construction) {
-    dialogs_.Message(texts::kNotAvailableYet, texts::kAppTitle);
-    ShowStart();
-    return;
+    Open<OvtForm3, OvtForm3View>();
+  } else {
+    Open<OvtForm1, OvtForm1View>();
   }
-  auto form = std::make_unique<OvtForm2>(vars_, dialogs_, *this);
-  form->Load();
-  auto next = std::make_unique<Shown>();
-  next->view = std::make_unique<LinesView>(*form, CommonLinesRows(),
-                                           QRect(LinesForm::kLeftTwips, LinesForm::kTopTwips,
-                                                 LinesForm::kWidthTwips, LinesForm::kHeightTwips));
-  next->form = std::move(form);
-  Show(std::move(next));
+}
+
+void AppScreens::ShowLines(Kind kind) {
+  const QRect place(LinesForm::kLeftTwips, LinesForm::kTopTwips, LinesForm::kWidthTwips,
+                    LinesForm::kHeightTwips);
+  if (kind == Kind::Construction) {
+    Open<OvtForm4, LinesView>(ConstructionLinesRows(), place);
+  } else {
+    Open<OvtForm2, LinesView>(CommonLinesRows(), place);
+  }
 }
 
 void AppScreens::Quit(int status) {

@@ -38,6 +38,10 @@ class AppScreens : public Screens {
     std::unique_ptr<Form> form;
     std::unique_ptr<QWidget> view;
   };
+  // Builds the screen of form F in a window V (given the form and `args`),
+  // loads it and shows it.
+  template <class F, class V, class... Args>
+  void Open(const Args&... args);
   // Shows a screen built now and retires the one shown before.
   void Show(std::unique_ptr<Shown> next);
   // Hides the screen shown now. It is destroyed later, once the event that

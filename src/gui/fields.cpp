@@ -37,6 +37,11 @@ void FitToCharacters(QLineEdit& edit, int chars) {
   edit.setFixedWidth(WidthForCharacters(edit, chars));
 }
 
+void MakeDateBox(QLineEdit& edit) {
+  edit.setInputMask(QStringLiteral("99/99/9999;_"));
+  FitToCharacters(edit, 10);
+}
+
 void FitToLength(QLineEdit& edit, int max_length, int max_pixels) {
   int full = WidthForCharacters(edit, max_length);
   if (max_pixels > 0) full = std::min(full, max_pixels);

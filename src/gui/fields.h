@@ -22,6 +22,10 @@ void FitToCharacters(QLineEdit& edit, int chars);
 // (addStretch(0)): the box then takes the room first.
 void FitToLength(QLineEdit& edit, int max_length, int max_pixels = 0);
 
+// A date box: the mask dd/mm/yyyy with "_" in the blanks, and the width of
+// its ten characters.
+void MakeDateBox(QLineEdit& edit);
+
 // The width FitToCharacters gives a box of `chars` digits.
 int WidthForCharacters(const QLineEdit& edit, int chars);
 

@@ -23,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 constexpr double kFontPoints = 8.0;
 constexpr int kMarginTwips = 90;
-constexpr int kDateBoxChars = 10;
-const QString kDateMask = u"99/99/9999;_"_s;
 
 const LineField* FieldNamed(const LinesLayout& layout, const QString& name) {
   for (const LineField& field : layout.fields) {
@@ -33,38 +31,66 @@ const LineField* FieldNamed(const LinesLayout& layout, const QString& name) {
   return nullptr;
 }
 
+// The place of box `box` (Text<box> under Text<box>Lbl), or of its two parts
+// joined by its "/" label.
+LinesPlace One(const char* box) {
+  const QString number = QString::fromLatin1(box);
+  return LinesPlace{u"Text"_s + number + u"Lbl"_s, {u"Text"_s + number}, {}};
+}
+LinesPlace Two(const char* box) {
+  const QString number = QString::fromLatin1(box);
+  return LinesPlace{u"Text"_s + number + u"Lbl"_s,
+                    {u"Text"_s + number + u"_1"_s, u"Text"_s + number + u"_2"_s},
+                    u"Text"_s + number + u"SepLbl"_s};
+}
+
 }  // namespace
 
 const std::vector<LinesRow>& CommonLinesRows() {
-  const auto one = [](const char* box) {
-    const QString number = QString::fromLatin1(box);
-    return LinesPlace{u"Text"_s + number + u"Lbl"_s, {u"Text"_s + number}, {}};
-  };
-  const auto two = [](const char* box) {
-    const QString number = QString::fromLatin1(box);
-    return LinesPlace{u"Text"_s + number + u"Lbl"_s,
-                      {u"Text"_s + number + u"_1"_s, u"Text"_s + number + u"_2"_s},
-                      u"Text"_s + number + u"SepLbl"_s};
-  };
   // clang-format off
   static const std::vector<LinesRow> rows{
-      {two("18"), one("19")},
-      {one("20"), one("26")},
-      {one("21"), {}, true},
-      {one("22"), {}, true},
-      {one("23"), {}, true},
-      {one("24"), {}, true},
-      {one("25"), one("27")},
-      {one("29"), one("28")},
-      {one("30"), one("39")},
-      {one("31"), one("40")},
-      {one("32"), one("41")},
-      {two("33"), one("42")},
-      {one("34"), one("43")},
-      {one("35"), one("44")},
-      {one("36"), one("45")},
-      {one("37"), one("46")},
-      {one("38"), {}},
+      {Two("18"), One("19")},
+      {One("20"), One("26")},
+      {One("21"), {}, true},
+      {One("22"), {}, true},
+      {One("23"), {}, true},
+      {One("24"), {}, true},
+      {One("25"), One("27")},
+      {One("29"), One("28")},
+      {One("30"), One("39")},
+      {One("31"), One("40")},
+      {One("32"), One("41")},
+      {Two("33"), One("42")},
+      {One("34"), One("43")},
+      {One("35"), One("44")},
+      {One("36"), One("45")},
+      {One("37"), One("46")},
+      {One("38"), {}},
+  };
+  // clang-format on
+  return rows;
+}
+
+// The long captions stand on the left, so that the right-hand captions leave
+// the boxes their room; codes are paired with the amounts.
+const std::vector<LinesRow>& ConstructionLinesRows() {
+  // clang-format off
+  static const std::vector<LinesRow> rows{
+      {One("21"), One("22")},
+      {One("23"), One("29")},
+      {One("24"), {}, true},
+      {One("25"), {}, true},
+      {One("26"), {}, true},
+      {One("27"), {}, true},
+      {One("28"), One("30")},
+      {One("31"), One("36")},
+      {One("32"), One("37")},
+      {One("33"), One("39")},
+      {One("34"), One("40")},
+      {One("35"), One("41")},
+      {One("38"), One("44")},
+      {One("42"), One("45")},
+      {One("43"), One("46")},
   };
   // clang-format on
   return rows;
@@ -146,8 +172,7 @@ QWidget* LinesView::Field(const LineField& field, QWidget* parent, bool stretch)
   }
   auto* edit = new QLineEdit(parent);  // owned by parent
   if (field.store == StoreAs::Date) {
-    edit->setInputMask(kDateMask);
-    FitToCharacters(*edit, kDateBoxChars);
+    MakeDateBox(*edit);
   } else if (!stretch) {
     FitToCharacters(*edit, field.max_length);
   }

@@ -54,5 +54,7 @@ class LinesView : public QWidget {
 
 // The rows of the common-business employee screen.
 const std::vector<LinesRow>& CommonLinesRows();
+// The rows of the construction-works worker screen.
+const std::vector<LinesRow>& ConstructionLinesRows();
 
 }  // namespace veroxia

@@ -54,6 +54,9 @@ class HeaderForm : public Form {
   void PrintCmd_Click();
   void PrintSumCmd_Click();
   void CreateFile_Click();
+  // The kind's employee button: opens the employee screen of the kind; no
+  // question on closing.
+  void OpenLines();
   // The window is being closed. True when it may close; unless a button
   // closes it, the user is asked, and Yes ends the program.
   bool QueryClose();
@@ -77,8 +80,6 @@ class HeaderForm : public Form {
   QStringList ActionButtons() const;
 
  protected:
-  // Opens the employee screen of the kind; no question on closing.
-  void OpenLines();
   // Work of the kind once the fields are loaded or taken over.
   virtual void AfterLoad() {}
   // The text a field shows for a stored value; by default the trimmed text.

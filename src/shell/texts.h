@@ -65,7 +65,6 @@ inline const QString kDirDriveUnreadable =
 inline const QString kNoIdLeft =
     u"ΠΡΟΣΟΧΗ!! Δεν μπορεί να δημιουργηθεί νέα δήλωση: έχει συμπληρωθεί ο μέγιστος αριθμός δηλώσεων (32767)."_s;
 inline const QString kRegistryFailed = u"Παρουσιάστηκε πρόβλημα στην αναζήτηση της δήλωσης."_s;
-inline const QString kNotAvailableYet = u"Η οθόνη αυτή δεν είναι ακόμη διαθέσιμη."_s;
 // What a store error means, for the errors a user can meet; any other error
 // is described in SQLite's own words.
 inline const QString kStoreNotADatabase = u"Λάθος κωδικός ή το αρχείο δεν είναι αρχείο δηλώσεων."_s;

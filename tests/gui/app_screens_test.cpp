@@ -1,5 +1,5 @@
-// One main screen at a time: the start screen, what stands in for the screens
-// still to come, and the end of the program.
+// One main screen at a time: the start screen, the header and employee
+// screens of both kinds, and the end of the program.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +7,12 @@
 #include <QPointer>
 
 #include "gui/app_screens.h"
+#include "gui/driver.h"
+#include "header/header_columns.h"
+#include "header/ovt_form1.h"
+#include "header/ovt_form3.h"
+#include "lines/ovt_form2.h"
+#include "lines/ovt_form4.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
 
@@ -24,7 +30,11 @@ TEST(AppScreensTest, WithoutAStoreNothingIsShownAndTheStatusIsOne) {
   for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
 }
 
-TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
+// Each kind's screens open with nothing to say and lead from one to the
+// next: from a stored header the employee button opens the employee screen,
+// its Back the header again, and the header's exit the start screen. The
+// screen shown before is closed, and destroyed once its event is over.
+TEST(AppScreensTest, EachKindsScreensLeadFromOneToTheNextUntilQuit) {
   TempStore store;
   FakeDialogs dialogs;
   AppScreens screens(store.vars, dialogs);
@@ -32,36 +42,36 @@ TEST(AppScreensTest, AScreenNotYetBuiltSaysSoTheHeaderScreenOpensUntilQuit) {
   QPointer<QWidget> first = screens.Current();
   ASSERT_FALSE(first.isNull());
   EXPECT_TRUE(first->isVisible());
+  store.vars.DeclarationId = 1;
+  store.vars.PeriodFrom = store.vars.PeriodTo = QStringLiteral("012002");
+  WriteHeaderColumns<EmployerRow>(*store.vars.StoreConnection, 1, {}, true);
+  WriteHeaderColumns<ConEmployerRow>(*store.vars.StoreConnection, 1, {}, true);
 
-  for (const bool header : {true, false}) {
-    dialogs.messages.clear();
-    header ? screens.ShowHeader(Kind::Construction) : screens.ShowLines(Kind::Construction);
-    ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].text, texts::kNotAvailableYet);
-    EXPECT_EQ(dialogs.messages[0].title, texts::kAppTitle);
-    ASSERT_NE(screens.Current(), nullptr);
-    EXPECT_TRUE(screens.Current()->isVisible());
+  const struct {
+    Kind kind;
+    const HeaderLayout& header;
+    const LinesLayout& lines;
+  } kinds[] = {
+      {Kind::Common, OvtForm1::CommonLayout(), OvtForm2::CommonLayout()},
+      {Kind::Construction, OvtForm3::ConstructionLayout(), OvtForm4::ConstructionLayout()}};
+  for (const auto& [kind, header, lines] : kinds) {
+    const auto shown = [&screens] { return screens.Current()->windowTitle().toStdString(); };
+    screens.ShowHeader(kind);
+    EXPECT_EQ(shown(), header.title.toStdString());
+    Click(*screens.Current(), header.lines_button);
+    EXPECT_EQ(shown(), lines.title.toStdString());
+    Click(*screens.Current(), QStringLiteral("BackCmd"));
+    EXPECT_EQ(shown(), header.title.toStdString());
+    Click(*screens.Current(), QStringLiteral("ExitCmd"));
+    EXPECT_NE(screens.Current()->findChild<QWidget*>(QStringLiteral("Command2")), nullptr);
   }
+  EXPECT_TRUE(dialogs.messages.empty());
   EXPECT_NE(screens.Current(), first.data());
-  // The screen shown before is closed, and destroyed once its event is over.
   QApplication::processEvents();
   EXPECT_TRUE(first.isNull());
   EXPECT_TRUE(store.vars.StoreOpen);
   EXPECT_FALSE(screens.QuitStatus().has_value());
 
-  // The common-business header and employee screens are built: they open
-  // instead of the start screen, with nothing to say (the employee screen in
-  // new mode, without lines).
-  dialogs.messages.clear();
-  store.vars.DeclarationId = 1;
-  store.vars.PeriodFrom = store.vars.PeriodTo = QStringLiteral("012002");
-  for (const bool header : {true, false}) {
-    header ? screens.ShowHeader(Kind::Common) : screens.ShowLines(Kind::Common);
-    EXPECT_TRUE(dialogs.messages.empty());
-    ASSERT_NE(screens.Current(), nullptr);
-    const auto* entry = screens.Current()->findChild<QWidget*>(header ? "SaveCmd" : "OkCmd");
-    EXPECT_TRUE(entry != nullptr && entry->isVisible());
-  }
   QPointer<QWidget> last = screens.Current();
   screens.Quit(0);
   EXPECT_EQ(screens.QuitStatus(), 0);

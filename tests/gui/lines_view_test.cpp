@@ -1,5 +1,5 @@
-// The employee window and the search dialog: real widgets, typed into and
-// clicked.
+// The employee window of either kind and the search dialog: real widgets,
+// typed into and clicked.
 
 #include <gtest/gtest.h>
 
@@ -8,11 +8,14 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <functional>
+#include <ostream>
 
 #include "gui/driver.h"
 #include "gui/lines_view.h"
 #include "gui/search_view.h"
 #include "lines/ovt_form2.h"
+#include "lines/ovt_form4.h"
 #include "lines/texts.h"
 #include "support/fakes.h"
 
@@ -21,54 +24,84 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class LinesViewTest : public ::testing::Test {
+// What differs between the kinds' employee windows.
+struct LinesKind {
+  const char* name;
+  std::function<std::unique_ptr<LinesForm>(Vars&, Dialogs&, Screens&)> form;
+  const std::vector<LinesRow>* rows;
+  QString date;         // a date box
+  QString choice;       // a choice box
+  QString second;       // the second of its choices
+  QString surname;      // a name field
+  QString first_fault;  // the field of the first check that fails with the surname alone
+};
+
+void PrintTo(const LinesKind& kind, std::ostream* out) { *out << kind.name; }
+
+template <class F>
+std::unique_ptr<LinesForm> Make(Vars& vars, Dialogs& dialogs, Screens& screens) {
+  return std::make_unique<F>(vars, dialogs, screens);
+}
+
+class LinesViewTest : public ::testing::TestWithParam<LinesKind> {
  protected:
-  LinesViewTest() : form(store.vars, dialogs, screens) {
+  LinesViewTest() : form(GetParam().form(store.vars, dialogs, screens)) {
     store.Open();
     store.vars.DeclarationId = 1;
     store.vars.PeriodFrom = u"012002"_s;
     store.vars.PeriodTo = u"012002"_s;
-    form.Load();
-    view = std::make_unique<LinesView>(form, CommonLinesRows(), QRect(500, 100, 10320, 8175));
+    form->Load();
+    view = std::make_unique<LinesView>(*form, *GetParam().rows, QRect(500, 100, 10320, 8175));
     ShowActive(*view);
   }
 
   TempStore store;
   FakeDialogs dialogs;
   FakeScreens screens;
-  OvtForm2 form;
+  std::unique_ptr<LinesForm> form;
   std::unique_ptr<LinesView> view;
 };
 
-TEST_F(LinesViewTest, EveryControlHasItsWidgetAndTheFirstFieldTheFocus) {
-  for (const QString& name : form.Names()) {
+TEST_P(LinesViewTest, EveryControlHasItsWidgetUncutAndTheFirstFieldTheFocus) {
+  for (const QString& name : form->Names()) {
     EXPECT_NE(view->findChild<QWidget*>(name), nullptr) << name.toStdString();
   }
-  EXPECT_EQ(Focused(*view), u"Text18_1"_s);
-  EXPECT_EQ(Find<QLineEdit>(*view, u"Text25"_s)->displayText(), u"__/__/____"_s);
-  EXPECT_EQ(Find<QComboBox>(*view, u"Text27"_s)->count(), 2);
+  ExpectNothingCut(*view);
+  EXPECT_EQ(Focused(*view), form->FirstField());
+  EXPECT_EQ(Find<QLineEdit>(*view, GetParam().date)->displayText(), u"__/__/____"_s);
+  EXPECT_EQ(Find<QComboBox>(*view, GetParam().choice)->count(), 2);
   EXPECT_FALSE(Find<QPushButton>(*view, u"NewCmd"_s)->isVisible());
   EXPECT_FALSE(Find<QPushButton>(*view, u"FirstCmd"_s)->isEnabled());
 }
 
 // Typed texts reach the logic (the date box as shown, the choice box by its
 // list); OK runs the checks, whose fault takes the focus; the close box asks.
-TEST_F(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
-  TypeInto(*view, u"Text21"_s, u"Papas"_s);
-  TypeInto(*view, u"Text25"_s, u"05031970"_s);
-  Find<QComboBox>(*view, u"Text28"_s)->setCurrentIndex(1);
+TEST_P(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
+  const LinesKind& kind = GetParam();
+  TypeInto(*view, kind.surname, u"Papas"_s);
+  TypeInto(*view, kind.date, u"05031970"_s);
+  Find<QComboBox>(*view, kind.choice)->setCurrentIndex(1);
   QApplication::processEvents();
-  EXPECT_EQ(form.Text(u"Text21"_s), u"Papas"_s);
-  EXPECT_EQ(form.Text(u"Text25"_s), u"05/03/1970"_s);
-  EXPECT_EQ(form.Text(u"Text28"_s), lines_texts::kNo);
+  EXPECT_EQ(form->Text(kind.surname), u"Papas"_s);
+  EXPECT_EQ(form->Text(kind.date), u"05/03/1970"_s);
+  EXPECT_EQ(form->Text(kind.choice), kind.second);
   Click(*view, u"OkCmd"_s);
   EXPECT_EQ(dialogs.messages.size(), 1u);
-  EXPECT_EQ(Focused(*view), u"Text18_1"_s);
+  EXPECT_EQ(Focused(*view), kind.first_fault);
 
   view->close();  // answered No: the window stays
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_TRUE(view->isVisible());
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, LinesViewTest,
+    ::testing::Values(LinesKind{"Common", Make<OvtForm2>, &CommonLinesRows(), u"Text25"_s,
+                                u"Text28"_s, lines_texts::kNo, u"Text21"_s, u"Text18_1"_s},
+                      LinesKind{"Construction", Make<OvtForm4>, &ConstructionLinesRows(),
+                                u"Text28"_s, u"Text30"_s, lines_texts::kUnmarried, u"Text24"_s,
+                                u"Text25"_s}),
+    [](const ::testing::TestParamInfo<LinesKind>& info) { return std::string(info.param.name); });
 
 TEST(SearchViewTest, OneKeyAtATimeAndTheCloseBoxCancels) {
   FakeDialogs dialogs;
