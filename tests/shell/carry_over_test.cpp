@@ -17,6 +17,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::DumpTable;
+using testing::LinesOf;
 using testing::Sample;
 using testing::SampleLine;
 using testing::ValuesOf;
@@ -29,11 +30,6 @@ class CarryOver : public ::testing::Test {
   CarryOver() {
     store_.vars.PreviousDeclarationId = kPrevious;
     store_.vars.DeclarationId = kNew;
-  }
-  template <class Row>
-  std::vector<Row> Lines(int id) {
-    const Kind kind = std::is_same_v<Row, EmployeeRow> ? Kind::Common : Kind::Construction;
-    return SelectLines<Row>(db_, TablesOf(kind).lines, TablesOf(kind).order, id);
   }
   // Runs the carry-over, which must succeed silently and leave no scratch.
   void ExpectCopied(Kind kind, int copied) {
@@ -77,18 +73,18 @@ TEST_F(CarryOver, CopiesTheLinesOfItsKindUnderTheNewIdOnce) {
 
   ExpectCopied(Kind::Construction, 2);
   std::swap(con[0], con[1]);  // reading order
-  EXPECT_EQ(ValuesOf(Lines<ConEmployeeRow>(kPrevious)), ValuesOf(con));
+  EXPECT_EQ(ValuesOf(LinesOf<ConEmployeeRow>(db_, kPrevious)), ValuesOf(con));
   for (auto& line : con) line.id = kNew;
-  EXPECT_EQ(ValuesOf(Lines<ConEmployeeRow>(kNew)), ValuesOf(con));
+  EXPECT_EQ(ValuesOf(LinesOf<ConEmployeeRow>(db_, kNew)), ValuesOf(con));
   EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYEES"), common);
 
   ExpectCopied(Kind::Common, 3);
   EXPECT_EQ(dialogs_.busy_calls, (std::vector<bool>{true, false, true, false}));
   previous[0].daily_wages = u"0"_s;  // empty in the previous declaration
-  EXPECT_EQ(ValuesOf(Lines<EmployeeRow>(kPrevious)), ValuesOf(previous));
+  EXPECT_EQ(ValuesOf(LinesOf<EmployeeRow>(db_, kPrevious)), ValuesOf(previous));
   for (auto& line : previous) line.id = kNew;
-  EXPECT_EQ(ValuesOf(Lines<EmployeeRow>(kNew)), ValuesOf(previous));
-  EXPECT_EQ(Lines<EmployeeRow>(2)[0].daily_wages, u"0"_s);  // Null in any declaration
+  EXPECT_EQ(ValuesOf(LinesOf<EmployeeRow>(db_, kNew)), ValuesOf(previous));
+  EXPECT_EQ(LinesOf<EmployeeRow>(db_, 2)[0].daily_wages, u"0"_s);  // Null in any declaration
 
   const auto lines = DumpTable(db_, "QOR_EMPLOYEES");
   ExpectCopied(Kind::Common, 0);  // a second run finds them copied

@@ -62,6 +62,13 @@ std::vector<std::vector<Text>> ValuesOf(const std::vector<Row>& rows) {
   return values;
 }
 
+// The lines of a declaration of the row's kind, in their reading order.
+template <class Row>
+std::vector<Row> LinesOf(Database& db, int id) {
+  const Kind kind = std::is_same_v<Row, EmployeeRow> ? Kind::Common : Kind::Construction;
+  return SelectLines<Row>(db, TablesOf(kind).lines, TablesOf(kind).order, id);
+}
+
 // Every column of every row of a table, in the order the rows were stored.
 std::vector<std::vector<Text>> DumpTable(Database& db, const char* table);
 
