@@ -61,34 +61,16 @@ struct MemoryVolumes : VolumeSink {
 class VolumeWriterTest : public ::testing::Test {
  public:
   Database& db() { return store_.Open(); }
-  // Lines of one person each, but those from `shared` on all of one person.
-  template <class Row>
-  void Lines(int count, int shared = 0) {
-    Transaction transaction(db());
-    for (int i = 1; i <= count; ++i) {
-      Row row;
-      row.id = 1;
-      row.row_num = i;
-      row.insured_id = QString::number(shared > 0 && i >= shared ? 999'999'999 : 100'000'000 + i);
-      row.surname = u"S"_s + QString::number(i);
-      InsertRow(db(), row);
-    }
-    transaction.Commit();
-  }
-  // A header with no values but its submission date.
+  // Writes declaration 1 with the header given, dated for submission.
   template <class Header>
-  static Header Submitted() {
-    Header header;
+  MemoryVolumes Write(Header header = {}) {
+    constexpr Kind kind = std::is_same_v<Header, EmployerRow> ? Kind::Common : Kind::Construction;
     header.id = 1;
-    if constexpr (requires { header.CreateFlDate; }) {
+    if constexpr (kind == Kind::Common) {
       header.CreateFlDate = u"05/03/2002"_s;
     } else {
       header.createfldate = u"05/03/2002"_s;
     }
-    return header;
-  }
-  template <class Header>
-  MemoryVolumes Write(Kind kind, Header header = Submitted<Header>()) {
     InsertRow(db(), header);
     MemoryVolumes volumes;
     VolumeWriter(db(), kind, 1).Write(volumes);
@@ -192,13 +174,13 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
       {"emp_subsidy_percent", u"12,5"_s}, {"emp_subsidy_amount", u"abc"_s},
       {"payed_contr", u"12345678901,5"_s}}));
   // clang-format on
-  EmployerRow header = Submitted<EmployerRow>();
+  EmployerRow header;
   header.declaration_type = u"1"_s;
   header.orgbra_branch_code = u"51"_s;
   header.orgbra_branch_descr = u" Αθηνών "_s;
   header.total_salaries = u"1234,5"_s;
   header.stop_date = u""_s;
-  const MemoryVolumes volumes = Write(Kind::Common, header);
+  const MemoryVolumes volumes = Write(header);
 
   ASSERT_EQ(volumes.volumes.size(), 1u);
   EXPECT_EQ(volumes.volumes[0].first, u"CSL01"_s);
@@ -238,10 +220,10 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
       {"daily_wages", u"50"_s}, {"phase_code", u"7"_s}, {"costing_days", u"20"_s},
       {"total_contr", u"1,1"_s}}));
   // clang-format on
-  ConEmployerRow header = Submitted<ConEmployerRow>();
+  ConEmployerRow header;
   header.sum_salaries = u"2"_s;
   header.sum_days = u"3"_s;
-  const MemoryVolumes volumes = Write(Kind::Construction, header);
+  const MemoryVolumes volumes = Write(header);
 
   const QList<QByteArray> records = volumes.Records(0);
   EXPECT_EQ(volumes.volumes[0].first, u"CSC01"_s);
@@ -270,7 +252,7 @@ TEST_F(VolumeWriterTest, GroupsFollowTheStoredInsuredId) {
     InsertRow(db(), testing::SampleLine<EmployeeRow>(1, ++row, *id));
   }
   // reading order: "", "111", "111", "222", "333 ", "333 ", "444", "444"
-  EXPECT_EQ(Write<EmployerRow>(Kind::Common).Types(0),
+  EXPECT_EQ(Write<EmployerRow>().Types(0),
             "1"
             "23"
             "233"
@@ -282,7 +264,7 @@ TEST_F(VolumeWriterTest, GroupsFollowTheStoredInsuredId) {
 }
 
 TEST_F(VolumeWriterTest, NoLinesGiveOneVolumeWithTheHeaderOnly) {
-  const MemoryVolumes volumes = Write<ConEmployerRow>(Kind::Construction);
+  const MemoryVolumes volumes = Write<ConEmployerRow>();
   ASSERT_EQ(volumes.volumes.size(), 1u);
   EXPECT_EQ(volumes.Types(0), "1E");
   EXPECT_TRUE(volumes.Records(0)[0].startsWith("10101CSC01   01"));
@@ -292,8 +274,8 @@ TEST_F(VolumeWriterTest, NoLinesGiveOneVolumeWithTheHeaderOnly) {
 // bytes; the volume count in every header is the estimate made beforehand,
 // and ten and more are named in plain decimal.
 TEST_F(VolumeWriterTest, CommonVolumesBreakAtTheirSize) {
-  Lines<EmployeeRow>(4373 * 9 + 1);
-  const MemoryVolumes volumes = Write<EmployerRow>(Kind::Common);
+  testing::AddLines(db(), Kind::Common, 1, 4373 * 9 + 1);
+  const MemoryVolumes volumes = Write<EmployerRow>();
   ASSERT_EQ(volumes.volumes.size(), 10u);
   EXPECT_EQ(volumes.volumes[0].second.size(), 416 + 4373 * (180 + 140) + 5);
   EXPECT_EQ(volumes.Records(0).size(), 1 + 2 * 4373 + 1);
@@ -309,8 +291,8 @@ TEST_F(VolumeWriterTest, CommonVolumesBreakAtTheirSize) {
 // still goes into it: 615 + 40 * 181 + 14651 * 95 + 300 = 1,400,000; and a
 // person whose lines go on in the next volume is named again at its top.
 TEST_F(VolumeWriterTest, ConstructionVolumesBreakAtTheirMargin) {
-  Lines<ConEmployeeRow>(14'653, 40);
-  const MemoryVolumes volumes = Write<ConEmployerRow>(Kind::Construction);
+  testing::AddLines(db(), Kind::Construction, 1, 14'653, 40);
+  const MemoryVolumes volumes = Write<ConEmployerRow>();
   ASSERT_EQ(volumes.volumes.size(), 2u);
   EXPECT_EQ(volumes.volumes[0].second.size(), 1'400'000 - 300 + 95 + 5);
   EXPECT_EQ(volumes.Types(0).count('3'), 14'652);
@@ -324,10 +306,8 @@ TEST_F(VolumeWriterTest, ACharacterTheCodePageCannotHoldStopsTheRun) {
   auto line = testing::SampleLine<EmployeeRow>(1, 7, u"222"_s);
   line.mother_name = u"ΜΑΡΙЯ"_s;  // a Cyrillic letter
   InsertRow(db(), line);
-  InsertRow(db(), Submitted<EmployerRow>());
-  MemoryVolumes volumes;
   try {
-    VolumeWriter(db(), Kind::Common, 1).Write(volumes);
+    Write<EmployerRow>();
     ADD_FAILURE() << "written";
   } catch (const Unencodable& fault) {
     EXPECT_EQ(fault.row_num, u"7"_s);
@@ -335,7 +315,6 @@ TEST_F(VolumeWriterTest, ACharacterTheCodePageCannotHoldStopsTheRun) {
     EXPECT_EQ(fault.field, u"24"_s);
     EXPECT_EQ(fault.character, u"Я"_s);
   }
-  EXPECT_FALSE(volumes.finished);
 }
 
 }  // namespace
