@@ -106,15 +106,15 @@ TEST(StartScreenStore, UnusableStoreEndsTheProgram) {
     std::function<void(const QString& path)> make;
     QString message;
   } cases[] = {
+      // clang-format off
       {"Missing", [](const QString&) {}, kStoreMissing},
       {"WrongPassword", [](const QString& path) { CreateStore(path, u"another password"_s); },
        critical + u"26\r"_s + kStoreNotADatabase},
-      {"NoTables",
-       [](const QString& path) {
+      {"NoTables", [](const QString& path) {
          CreateStore(path, StorePassword());
          Database::Open(path, StorePassword())->Exec("DROP TABLE QOR_TEMP_EMPLOYEES");
-       },
-       critical + u"1\rno such table: QOR_TEMP_EMPLOYEES"_s},
+       }, critical + u"1\rno such table: QOR_TEMP_EMPLOYEES"_s},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -301,13 +301,7 @@ TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, Registry,
                          ::testing::Combine(::testing::Values(Kind::Common, Kind::Construction),
-                                            ::testing::ValuesIn(kSettleCases)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param) == Kind::Common
-                                                  ? "Common"
-                                                  : "Construction") +
-                                  std::get<1>(info.param).name;
-                         });
+                                            ::testing::ValuesIn(kSettleCases)));
 
 }  // namespace
 }  // namespace veroxia
