@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "filing/texts.h"
+#include "shell/texts.h"
 #include "support/fakes.h"
 
 namespace veroxia {
@@ -41,15 +42,15 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"construction"_s, u"4"_s, out}, 1, {}, kNoDateLine1 + u'\n' + kNoDateLine2 + u'\n'},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"9"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
-      {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, {}},
-      {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + u"the id"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"volumes needs"_s},
-      {{u"list"_s, u"--store"_s}, 2, {}, usage + u"--store"_s},
-      {{u"list"_s, u"all"_s}, 2, {}, usage + u"unknown"_s},
-      {{}, 2, {}, u"Usage"_s},
-      {{u"--help"_s}, 0, u"Usage"_s, {}},
+      {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind is common or construction\n"_s},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"volumes needs a kind, an id and a directory\n"_s},
+      {{u"list"_s, u"--store"_s}, 2, {}, usage + u"--store needs a path\n"_s},
+      {{u"list"_s, u"all"_s}, 2, {}, usage + u"unknown command: list all\n"_s},
+      {{}, 2, {}, u"Usage: veroxia-cli"_s},
+      {{u"--help"_s}, 0, u"Usage: veroxia-cli"_s, {}},
       // clang-format on
   };
   for (const auto& c : cases) {

@@ -77,8 +77,9 @@ TEST(Checks, DatesAreRealDaysInDayMonthYearOrder) {
   for (const char* text : {"31/12/2002", "29/02/2004", " 01/01/2002 ", "05-03-2002"}) {
     EXPECT_EQ(CheckDate(QString::fromUtf8(text), kField), std::nullopt) << text;
   }
-  for (const char* text : {"32/01/2002", "29/02/2001", "01/13/2002", "1/2/2002", "12/31/2002",
-                           "__/__/____", "12/05/____", "", "ab/cd/efgh", "31/04/2002"}) {
+  for (const char* text :
+       {"32/01/2002", "29/02/2001", "01/13/2002", "1/2/2002", "12/31/2002", "__/__/____",
+        "12/05/____", "", "ab/cd/efgh", "31/04/2002", "01/02", "01/02/2002/3"}) {
     EXPECT_EQ(CheckDate(QString::fromUtf8(text), kField), DateWrong(kField)) << text;
   }
   EXPECT_EQ(CheckNoDigits(u"ΓΙΑΝΝΗΣ"_s, kField), std::nullopt);

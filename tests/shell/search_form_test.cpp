@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "lines/texts.h"
 #include "shell/search_form.h"
 #include "support/fakes.h"
@@ -26,11 +29,14 @@ TEST(SearchDialog, HandsBackOneKeyOrStaysOnTheNumber) {
       {{}, u"12345678"_s, kSearchNotNine, {}},
       {{}, u"12345678x"_s, kSearchNotNumber, {}},
   };
+  QTemporaryDir app;  // the program's directory, with its icon
+  ASSERT_TRUE(QFile(app.filePath(u"qormain.ico"_s)).open(QIODevice::WriteOnly));
   for (const auto& c : cases) {
     SCOPED_TRACE(c.number.toStdString());
     FakeDialogs dialogs;
-    SearchForm form(QString(), dialogs);
+    SearchForm form(app.path(), dialogs);
     form.Load();
+    EXPECT_EQ(form.IconPath(), app.filePath(u"qormain.ico"_s));
     form.Activate();
     EXPECT_EQ(form.FocusedField(), u"Text2"_s);
     form.Type(u"Text2"_s, c.surname);
