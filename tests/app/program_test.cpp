@@ -26,11 +26,6 @@ QByteArray ReadFile(const QString& path) {
 }
 
 TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
-  const auto write = [](const QString& path) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray(16384, 'Z'));
-  };
   const auto read_only = [](const QString& path) {
     CreateStore(path, StorePassword());
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
@@ -43,7 +38,6 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
       {"NoStore", [](const QString&) {}, false},
       {"Directory", [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); }, false},
       {"OtherPassword", [](const QString& path) { CreateStore(path, u"other"_s); }, true},
-      {"NotAStore", write, true},
       {"ReadOnly", read_only, true},
   };
   const QString missing = texts::kAppTitle + u'\t' + texts::kStoreMissing;
