@@ -26,6 +26,10 @@ QByteArray ReadFile(const QString& path) {
 }
 
 TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
+  const auto read_only = [](const QString& path) {
+    CreateStore(path, StorePassword());
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+  };
   const struct {
     const char* name;
     std::function<void(const QString& path)> make;  // what stands where the store should be
@@ -34,30 +38,19 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
       {"NoStore", [](const QString&) {}, false},
       {"Directory", [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); }, false},
       {"OtherPassword", [](const QString& path) { CreateStore(path, u"other"_s); }, true},
-      {"NotAStore",
-       [](const QString& path) {
-         QFile file(path);
-         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-         file.write(QByteArray(16384, 'Z'));
-       },
-       true},
-      {"ReadOnly",
-       [](const QString& path) {
-         CreateStore(path, StorePassword());
-         QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-       },
-       true},
+      {"ReadOnly", read_only, true},
   };
   const QString missing = texts::kAppTitle + u'\t' + texts::kStoreMissing;
   const QString critical =
       texts::kAppTitle + u'\t' + texts::kStoreCritical + u"\\n"_s + texts::kErrorCode;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+  environment.insert(u"VEROXIA_UNATTENDED"_s, u"1"_s);
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     QTemporaryDir dir;
-    const QString program = dir.filePath(u"veroxia"_s);
+    const QString program = dir.filePath(u"veroxia"_s), store = StorePath(dir.path());
     ASSERT_TRUE(QFile::copy(QStringLiteral(VEROXIA_BINARY), program));
-    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
-    const QString store = StorePath(dir.path());
     c.make(store);
     const auto entries = [&dir] {
       return QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -67,9 +60,6 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     const QByteArray bytes = ReadFile(store);
 
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-    environment.insert(u"VEROXIA_UNATTENDED"_s, u"1"_s);
     process.setProcessEnvironment(environment);
     process.start(program, {});
     if (!process.waitForFinished(30'000)) {

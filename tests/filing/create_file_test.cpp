@@ -67,22 +67,13 @@ TEST(CreateFile, EveryWayOutOfARun) {
       header.employer_name = c.employer;
       InsertRow(db, header);
     }
-    Transaction transaction(db);
-    for (int row = 1; row <= c.good_lines + 1; ++row) {
-      EmployeeRow line;
-      line.id = 1;
-      line.row_num = row;
-      line.insured_id = QString::number(row <= c.good_lines ? 100'000'000 + row : 123'456'789);
-      line.surname = row <= c.good_lines ? ok : c.surname;
-      InsertRow(db, line);
-    }
-    transaction.Commit();
+    testing::AddLines(db, Kind::Common, 1, c.good_lines);
+    auto line = testing::SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s);
+    line.surname = c.surname;
+    InsertRow(db, line);
     QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
-    QFile old(out + u"/CSL01"_s);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
+    if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
     const QByteArray stored = Bytes(store.Path());
 
     testing::FakeDialogs dialogs;

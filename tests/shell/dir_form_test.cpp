@@ -16,70 +16,61 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // What the user does, step by step: "open:", "highlight:" a directory below
-// home, choose a "drive:", "cancel" or "close"; then OK unless closed.
-struct DirCase {
-  QStringList steps;
-  QString answer;  // below home; "-" when cancelled
-  QString failed;  // the drive reported unreadable
-  QString drive;   // Drive1 at the end
-};
-
-class DirFormTest : public ::testing::TestWithParam<DirCase> {};
-
-// Home holds the program's directory app/ with out/inner/ in it and a
-// stick; the drive GONE was taken out after the list was made.
-TEST_P(DirFormTest, HandsBackTheOpenedDirectory) {
-  const DirCase& c = GetParam();
+// home, choose a "drive:", "cancel" or "close"; then OK unless closed. Home
+// holds the program's directory app/ with out/inner/ and its icon in it, and
+// a stick; the drive GONE was taken out after the list was made.
+TEST(DirDialog, HandsBackTheOpenedDirectory) {
+  const struct {
+    QStringList steps;
+    QString answer;  // below home; "-" when cancelled
+    QString failed;  // the drive reported unreadable
+    QString drive;   // Drive1 at the end
+  } cases[] = {
+      // clang-format off
+      {{}, u"/app"_s, {}, u"home"_s},
+      {{u"open:/app/out"_s, u"highlight:/app/out/inner"_s}, u"/app/out"_s, {}, u"home"_s},
+      {{u"open:/app/.."_s, u"open:/nowhere"_s}, u""_s, {}, u"home"_s},
+      {{u"drive:STICK"_s}, u"/stick"_s, {}, u"STICK"_s},
+      {{u"open:/app/out"_s, u"drive:GONE"_s}, u"/app/out"_s, u"GONE"_s, u"home"_s},
+      {{u"open:/app/out"_s, u"cancel"_s}, u"-"_s, {}, u"home"_s},
+      {{u"drive:/"_s, u"close"_s}, u"-"_s, {}, u"/"_s},
+      // clang-format on
+  };
   QTemporaryDir temp;
   const QString home = temp.path();
   ASSERT_TRUE(QDir(home).mkpath(u"app/out/inner"_s) && QDir(home).mkpath(u"stick"_s));
-  FakeDialogs dialogs;
-  DirForm form(home + u"/app"_s, dialogs, [&home] {
-    return QList<Drive>{{u"/"_s, u"/"_s},
-                        {u"STICK"_s, home + u"/stick"_s},
-                        {u"GONE"_s, home + u"/gone"_s},
-                        {u"home"_s, home}};
-  });
-  form.Load();
-  for (const QString& step : c.steps) {
-    const QString what = step.section(u':', 0, 0), value = step.section(u':', 1);
-    if (what == u"open" || what == u"highlight") form.HighlightDirectory(home + value);
-    if (what == u"open") form.OpenHighlighted();
-    if (what == u"drive") {
-      form.Type(u"Drive1"_s, value);
-      form.Drive1_Change();
+  ASSERT_TRUE(QFile(home + u"/app/qormain.ico"_s).open(QIODevice::WriteOnly));
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.steps.join(u' ').toStdString());
+    FakeDialogs dialogs;
+    DirForm form(home + u"/app/"_s, dialogs, [&home] {
+      return QList<Drive>{{u"/"_s, u"/"_s},
+                          {u"STICK"_s, home + u"/stick"_s},
+                          {u"GONE"_s, home + u"/gone"_s},
+                          {u"home"_s, home}};
+    });
+    form.Load();
+    EXPECT_EQ(form.IconPath(), home + u"/app/qormain.ico"_s);
+    for (const QString& step : c.steps) {
+      const QString what = step.section(u':', 0, 0), value = step.section(u':', 1);
+      if (what == u"open" || what == u"highlight") form.HighlightDirectory(home + value);
+      if (what == u"open") form.OpenHighlighted();
+      if (what == u"drive") {
+        form.Type(u"Drive1"_s, value);
+        form.Drive1_Change();
+      }
+      if (what == u"cancel") form.Command2_Click();
+      if (what == u"close") form.QueryClose();
     }
-    if (what == u"cancel") form.Command2_Click();
-    if (what == u"close") form.QueryClose();
+    EXPECT_EQ(dialogs.LastMessage(),
+              c.failed.isEmpty() ? QString() : texts::kDirDriveUnreadable + c.failed + u"'."_s);
+    EXPECT_EQ(form.Text(u"Drive1"_s), c.drive);
+    if (!form.Closed()) form.Command1_Click();
+    EXPECT_EQ(form.Answer(), c.answer == u"-" ? QString() : home + c.answer);
+    // The arrow on loading; the hourglass after OK, for the writing that follows.
+    EXPECT_EQ(dialogs.busy_calls,
+              (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
   }
-  EXPECT_EQ(dialogs.LastMessage(),
-            c.failed.isEmpty() ? QString() : texts::kDirDriveUnreadable + c.failed + u"'."_s);
-  EXPECT_EQ(form.Text(u"Drive1"_s), c.drive);
-  if (!form.Closed()) form.Command1_Click();
-  EXPECT_EQ(form.Answer(), c.answer == u"-" ? QString() : home + c.answer);
-  // The arrow on loading; the hourglass after OK, for the writing that follows.
-  EXPECT_EQ(dialogs.busy_calls,
-            (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Choices, DirFormTest,
-    ::testing::Values(
-        DirCase{{}, u"/app"_s, {}, u"home"_s},
-        DirCase{{u"open:/app/out"_s, u"highlight:/app/out/inner"_s}, u"/app/out"_s, {}, u"home"_s},
-        DirCase{{u"open:/app/.."_s, u"open:/nowhere"_s}, u""_s, {}, u"home"_s},
-        DirCase{{u"drive:STICK"_s}, u"/stick"_s, {}, u"STICK"_s},
-        DirCase{{u"open:/app/out"_s, u"drive:GONE"_s}, u"/app/out"_s, u"GONE"_s, u"home"_s},
-        DirCase{{u"open:/app/out"_s, u"cancel"_s}, u"-"_s, {}, u"home"_s},
-        DirCase{{u"drive:/"_s, u"close"_s}, u"-"_s, {}, u"/"_s}));
-
-TEST(DirFormLoad, TheIconOfTheProgramDirectoryAndTheFocusOrder) {
-  QTemporaryDir app;
-  ASSERT_TRUE(QFile(app.path() + u"/qormain.ico"_s).open(QIODevice::WriteOnly));
-  FakeDialogs dialogs;
-  DirForm form(app.path() + u"/"_s, dialogs, [] { return QList<Drive>{}; });
-  form.Load();
-  EXPECT_EQ(form.IconPath(), app.path() + u"/qormain.ico"_s);
   EXPECT_EQ(DirForm::FocusOrder(), QString(u"Dir1 Drive1 Command1 Command2"_s).split(u' '));
 }
 

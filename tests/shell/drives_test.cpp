@@ -31,5 +31,13 @@ TEST(DrivesOf, RemovableByLabelThenHomeThenRoot) {
   EXPECT_EQ(Shown(DrivesOf({}, u"/"_s)), u"/=/"_s);
 }
 
+// The drive shown for a path is the one with the longest root holding it.
+TEST(DriveOf, TheLongestRootHoldingThePath) {
+  const QList<Drive> drives{{u"/"_s, u"/"_s}, {u"u"_s, u"/home/u"_s}, {u"v"_s, u"/home/v"_s}};
+  EXPECT_EQ(DriveOf(drives, u"/home/u/x"_s), 1);
+  EXPECT_EQ(DriveOf(drives, u"/home/uv"_s), 0);
+  EXPECT_EQ(DriveOf({}, u"/home"_s), -1);
+}
+
 }  // namespace
 }  // namespace veroxia::testing

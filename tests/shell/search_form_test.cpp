@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "lines/texts.h"
 #include "shell/search_form.h"
 #include "support/fakes.h"
@@ -13,44 +16,44 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace lines_texts;
 
-struct FindCase {
-  QString surname;
-  QString number;
-  QString message;  // empty: the dialog closes with the key below
-  SearchAnswer answer;
-};
-
-class SearchFormTest : public ::testing::TestWithParam<FindCase> {};
-
-TEST_P(SearchFormTest, HandsBackOneKeyOrStaysOnTheNumber) {
-  const FindCase& c = GetParam();
-  FakeDialogs dialogs;
-  SearchForm form(QString(), dialogs);
-  form.Load();
-  form.Activate();
-  EXPECT_EQ(form.FocusedField(), u"Text2"_s);
-  form.Type(u"Text2"_s, c.surname);
-  form.Type(u"Text1"_s, c.number);
-  form.Command1_Click();
-  EXPECT_EQ(dialogs.LastMessage(), c.message);
-  EXPECT_EQ(form.Closed(), c.message.isEmpty());
-  if (!c.message.isEmpty()) {
-    EXPECT_EQ(form.FocusedField(), u"Text1"_s);
-    form.QueryClose();  // the window's close control
+TEST(SearchDialog, HandsBackOneKeyOrStaysOnTheNumber) {
+  const struct {
+    QString surname;
+    QString number;
+    QString message;  // empty: the dialog closes with the key below
+    SearchAnswer answer;
+  } cases[] = {
+      {u"πάπα "_s, u" "_s, {}, {u"πάπα "_s, u"NAME"_s}},
+      {{}, {}, {}, {{}, u"NAME"_s}},
+      {u"x"_s, u"123456789"_s, {}, {u"123456789"_s, u"AMA"_s}},
+      {{}, u"12345678"_s, kSearchNotNine, {}},
+      {{}, u"12345678x"_s, kSearchNotNumber, {}},
+  };
+  QTemporaryDir app;  // the program's directory, with its icon
+  ASSERT_TRUE(QFile(app.filePath(u"qormain.ico"_s)).open(QIODevice::WriteOnly));
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.number.toStdString());
+    FakeDialogs dialogs;
+    SearchForm form(app.path(), dialogs);
+    form.Load();
+    EXPECT_EQ(form.IconPath(), app.filePath(u"qormain.ico"_s));
+    form.Activate();
+    EXPECT_EQ(form.FocusedField(), u"Text2"_s);
+    form.Type(u"Text2"_s, c.surname);
+    form.Type(u"Text1"_s, c.number);
+    form.Command1_Click();
+    EXPECT_EQ(dialogs.LastMessage(), c.message);
+    EXPECT_EQ(form.Closed(), c.message.isEmpty());
+    if (!c.message.isEmpty()) {
+      EXPECT_EQ(form.FocusedField(), u"Text1"_s);
+      form.QueryClose();  // the window's close control
+    }
+    EXPECT_EQ(form.Answer().text, c.answer.text);
+    EXPECT_EQ(form.Answer().kind, c.answer.kind);
   }
-  EXPECT_EQ(form.Answer().text, c.answer.text);
-  EXPECT_EQ(form.Answer().kind, c.answer.kind);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, SearchFormTest,
-    ::testing::Values(FindCase{u"πάπα "_s, u" "_s, {}, {u"πάπα "_s, u"NAME"_s}},
-                      FindCase{{}, {}, {}, {{}, u"NAME"_s}},
-                      FindCase{u"x"_s, u"123456789"_s, {}, {u"123456789"_s, u"AMA"_s}},
-                      FindCase{{}, u"12345678"_s, kSearchNotNine, {}},
-                      FindCase{{}, u"12345678x"_s, kSearchNotNumber, {}}));
-
-TEST(SearchFormChange, TypingOneKeyEmptiesTheOther) {
+TEST(SearchDialog, TypingOneKeyEmptiesTheOther) {
   FakeDialogs dialogs;
   SearchForm form(QString(), dialogs);
   form.Type(u"Text1"_s, u"123"_s);

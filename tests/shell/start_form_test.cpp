@@ -17,6 +17,7 @@
 #include "store/schema.h"
 #include "store/store_file.h"
 #include "support/fakes.h"
+#include "support/rule_chain.h"
 #include "support/store_rows.h"
 
 namespace veroxia {
@@ -105,15 +106,15 @@ TEST(StartScreenStore, UnusableStoreEndsTheProgram) {
     std::function<void(const QString& path)> make;
     QString message;
   } cases[] = {
+      // clang-format off
       {"Missing", [](const QString&) {}, kStoreMissing},
       {"WrongPassword", [](const QString& path) { CreateStore(path, u"another password"_s); },
        critical + u"26\r"_s + kStoreNotADatabase},
-      {"NoTables",
-       [](const QString& path) {
+      {"NoTables", [](const QString& path) {
          CreateStore(path, StorePassword());
          Database::Open(path, StorePassword())->Exec("DROP TABLE QOR_TEMP_EMPLOYEES");
-       },
-       critical + u"1\rno such table: QOR_TEMP_EMPLOYEES"_s},
+       }, critical + u"1\rno such table: QOR_TEMP_EMPLOYEES"_s},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -163,96 +164,65 @@ TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
   }
 }
 
-struct PeriodCase {
-  const char* name;
-  QStringList typed;  // Month1, Year1, Month2, Year2; or ConMonth, ConYear
-  const char* field;  // the field at fault; nullptr when the period is accepted
-  const QString* message = nullptr;
-  int select = 0;  // characters selected in the field, as many as it holds; 0: focus only
-};
-
-// clang-format off
-const PeriodCase kPeriodCases[] = {
-    // 1 to 3: start month blank, shorter than two characters, not 1 to 12.
-    {"StartMonthBlanks", {"  ", "2002", "01", "2002"}, "Month1", &kStartMonthBlank},
-    {"StartMonthOneDigit", {"5", "2002", "05", "2002"}, "Month1", &kStartMonthLength, 2},
-    {"StartMonth13", {"13", "2002", "12", "2002"}, "Month1", &kStartMonthWrong, 2},
-    {"StartMonth00", {"00", "2002", "01", "2002"}, "Month1", &kStartMonthWrong, 2},
-    {"StartMonthDigitLetter", {"1a", "", "", ""}, "Month1", &kStartMonthWrong, 2},
-    // 4 to 6: start year blank, not a number (tried before its length), short.
-    {"StartYearBlanks", {"01", "    ", "01", "2002"}, "Year1", &kStartYearBlank},
-    {"StartYearTwoLetters", {"01", "ab", "01", "2002"}, "Year1", &kStartYearNumeric, 4},
-    {"StartYearThreeDigits", {"01", "200", "01", "2002"}, "Year1", &kStartYearLength, 4},
-    // 7 to 12: the same for the end month and year.
-    {"EndMonthBlank", {"01", "2002", "", "2002"}, "Month2", &kEndMonthBlank},
-    {"EndMonthOneDigit", {"01", "2002", "6", "2002"}, "Month2", &kEndMonthLength, 2},
-    {"EndMonth13", {"01", "2002", "13", "2002"}, "Month2", &kEndMonthWrong, 2},
-    {"EndYearBlank", {"01", "2002", "01", ""}, "Year2", &kEndYearBlank},
-    {"EndYearLetters", {"01", "2002", "01", "2oo2"}, "Year2", &kEndYearNumeric, 4},
-    {"EndYearThreeDigits", {"01", "2002", "01", "200"}, "Year2", &kEndYearLength, 4},
-    // 13: the period stays within one year.
-    {"EndYearLater", {"10", "2002", "12", "2003"}, "Year2", &kEndYearDiffers, 4},
-    // 14: a period of more than one month starts a quarter.
-    {"FebToApr", {"02", "2002", "04", "2002"}, "Month1", &kStartMonthNotQuarter, 2},
-    // 15: and ends two months later.
-    {"TwoMonths", {"01", "2002", "02", "2002"}, "Month2", &kEndMonthNotQuarter, 2},
-    {"FourMonths", {"01", "2002", "04", "2002"}, "Month2", &kEndMonthNotQuarter, 2},
-    // Accepted: one month, or one calendar quarter.
-    {"December", {"12", "2002", "12", "2002"}, nullptr},
-    {"FirstQuarter", {"01", "2002", "03", "2002"}, nullptr},
-    {"SecondQuarter", {"04", "2002", "06", "2002"}, nullptr},
-    {"ThirdQuarter", {"07", "2002", "09", "2002"}, nullptr},
-    {"FourthQuarter", {"10", "2002", "12", "2002"}, nullptr},
-    {"MonthWithLeadingBlank", {" 5", "2002", " 5", "2002"}, nullptr},
-    {"QuarterWithLeadingBlank", {" 4", "2002", "06", "2002"}, nullptr},
-    {"YearWithTrailingBlank", {"01", "200 ", "01", "200 "}, nullptr},
-    // The construction kind: a work month and year.
-    {"ConMonthBlank", {"", "2002"}, "ConMonth", &kStartMonthBlank},
-    {"ConMonthOneDigit", {"5", ""}, "ConMonth", &kStartMonthLength, 2},
-    {"ConMonth13", {"13", "2002"}, "ConMonth", &kStartMonthWrong, 2},
-    {"ConYearBlanks", {"01", "    "}, "ConYear", &kConYearBlank},
-    {"ConYearLetter", {"01", "20x2"}, "ConYear", &kConYearNumeric, 4},
-    {"ConYearThreeDigits", {"01", "200"}, "ConYear", &kConYearLength, 4},
-    {"ConMay", {"05", "2002"}, nullptr},
-    {"ConAnyYear", {"12", "0000"}, nullptr},
-};
-// clang-format on
-
 // The rules of the period in their order, as OK applies them: a fault is told
 // once on its field and nothing is looked up; an accepted period opens the
 // header of its kind.
 TEST_F(StartScreen, OkChecksThePeriodRuleByRule) {
   ASSERT_TRUE(form_.Load());
-  for (const PeriodCase& c : kPeriodCases) {
-    SCOPED_TRACE(c.name);
-    dialogs_.messages.clear();
-    dialogs_.busy_calls.clear();
+  const auto ok = [this] {
     screens_.shown.clear();
-    vars_.DeclarationId = 77;
-    const bool common = c.typed.size() == 4;
-    const QStringList& fields = common ? kCommonFields : kConFields;
-    (form_.*kKind[common][false])();
-    for (qsizetype i = 0; i < fields.size(); ++i) form_.Type(fields[i], c.typed[i]);
+    dialogs_.busy_calls.clear();
     form_.FocusMovedTo(u"OkCmd"_s);
     form_.OkCmd_Click();
-    if (c.field == nullptr) {
-      EXPECT_TRUE(dialogs_.messages.empty()) << dialogs_.LastMessage().toStdString();
-      EXPECT_EQ(screens_.shown,
-                QStringList{common ? u"header common"_s : u"header construction"_s});
-      continue;
-    }
-    QStringList told;
-    for (const auto& shown : dialogs_.messages) told << shown.title << shown.text;
-    EXPECT_EQ(told, (QStringList{kAppTitle, *c.message}));
-    const QString field = QString::fromLatin1(c.field);
-    EXPECT_EQ(form_.FocusedField(), field);
-    const auto selection = form_.SelectionOf(field);
-    const int length = std::min(c.select, static_cast<int>(form_.Text(field).size()));
-    EXPECT_EQ(selection ? selection->length : -1, c.select > 0 ? length : -1);
-    EXPECT_TRUE(dialogs_.busy_calls.empty());
-    EXPECT_TRUE(screens_.shown.isEmpty());
-    EXPECT_EQ(vars_.DeclarationId, 77);
+    return !screens_.shown.isEmpty() || !dialogs_.busy_calls.empty();
+  };
+  using testing::Fixed;
+  form_.Command1_Click();
+  // clang-format off
+  testing::ExpectRulesInOrder(form_, dialogs_, ok, {
+      {"Month1", u"  "_s, Fixed(kStartMonthBlank), false, u"5"_s},
+      {"Month1", u"5"_s, Fixed(kStartMonthLength), true, u"13"_s},
+      {"Month1", u"13"_s, Fixed(kStartMonthWrong), true, u"00"_s},
+      {"Month1", u"00"_s, Fixed(kStartMonthWrong), true, u"1a"_s},
+      {"Month1", u"1a"_s, Fixed(kStartMonthWrong), true, u"02"_s},
+      {"Year1", u"    "_s, Fixed(kStartYearBlank), false, u"ab"_s},  // a number before its length
+      {"Year1", u"ab"_s, Fixed(kStartYearNumeric), true, u"200"_s},
+      {"Year1", u"200"_s, Fixed(kStartYearLength), true, u"2002"_s},
+      {"Month2", u""_s, Fixed(kEndMonthBlank), false, u"6"_s},
+      {"Month2", u"6"_s, Fixed(kEndMonthLength), true, u"13"_s},
+      {"Month2", u"13"_s, Fixed(kEndMonthWrong), true, u"04"_s},
+      {"Year2", u""_s, Fixed(kEndYearBlank), false, u"2oo2"_s},
+      {"Year2", u"2oo2"_s, Fixed(kEndYearNumeric), true, u"200"_s},
+      {"Year2", u"200"_s, Fixed(kEndYearLength), true, u"2003"_s},
+      {"Year2", u"2003"_s, Fixed(kEndYearDiffers), true, u"2002"_s},  // within one year
+      {"Month1", u"02"_s, Fixed(kStartMonthNotQuarter), true, u"01"_s},  // more than a month
+      {"Month2", u"04"_s, Fixed(kEndMonthNotQuarter), true, u"02"_s},    // ends a quarter
+      {"Month2", u"02"_s, Fixed(kEndMonthNotQuarter), true, u"03"_s}});
+  EXPECT_EQ(screens_.shown, QStringList{u"header common"_s});
+  form_.CancelCmd_Click();
+  form_.Command2_Click();
+  testing::ExpectRulesInOrder(form_, dialogs_, ok, {
+      {"ConMonth", u""_s, Fixed(kStartMonthBlank), false, u"5"_s},
+      {"ConMonth", u"5"_s, Fixed(kStartMonthLength), true, u"13"_s},
+      {"ConMonth", u"13"_s, Fixed(kStartMonthWrong), true, u"05"_s},
+      {"ConYear", u"    "_s, Fixed(kConYearBlank), false, u"20x2"_s},
+      {"ConYear", u"20x2"_s, Fixed(kConYearNumeric), true, u"200"_s},
+      {"ConYear", u"200"_s, Fixed(kConYearLength), true, u"0000"_s}});
+  EXPECT_EQ(screens_.shown, QStringList{u"header construction"_s});
+  // One month, or one calendar quarter; blanks around the numbers count.
+  form_.CancelCmd_Click();
+  form_.Command1_Click();
+  for (const QStringList& typed : {QStringList{u"12"_s, u"2002"_s, u"12"_s, u"2002"_s},
+                                  {u"04"_s, u"2002"_s, u"06"_s, u"2002"_s},
+                                  {u"07"_s, u"2002"_s, u"09"_s, u"2002"_s},
+                                  {u"10"_s, u"2002"_s, u"12"_s, u"2002"_s},
+                                  {u" 5"_s, u"2002"_s, u" 5"_s, u"2002"_s},
+                                  {u" 4"_s, u"2002"_s, u"06"_s, u"2002"_s},
+                                  {u"01"_s, u"200 "_s, u"01"_s, u"200 "_s}}) {
+    for (qsizetype i = 0; i < kCommonFields.size(); ++i) form_.Type(kCommonFields[i], typed[i]);
+    EXPECT_TRUE(ok()) << typed.join(u' ').toStdString() << dialogs_.LastMessage().toStdString();
   }
+  // clang-format on
 }
 
 struct SettleCase {
@@ -331,13 +301,7 @@ TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
 
 INSTANTIATE_TEST_SUITE_P(Kinds, Registry,
                          ::testing::Combine(::testing::Values(Kind::Common, Kind::Construction),
-                                            ::testing::ValuesIn(kSettleCases)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param) == Kind::Common
-                                                  ? "Common"
-                                                  : "Construction") +
-                                  std::get<1>(info.param).name;
-                         });
+                                            ::testing::ValuesIn(kSettleCases)));
 
 }  // namespace
 }  // namespace veroxia

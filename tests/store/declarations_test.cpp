@@ -14,18 +14,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using testing::DumpTable;
+using testing::LinesOf;
 using testing::Sample;
 using testing::SampleLine;
 using testing::ValuesOf;
 
 class Declarations : public ::testing::Test {
  protected:
-  template <class Row>
-  std::vector<Row> Lines(int id) {
-    const Kind kind = std::is_same_v<Row, EmployeeRow> ? Kind::Common : Kind::Construction;
-    return SelectLines<Row>(db_, TablesOf(kind).lines, TablesOf(kind).order, id);
-  }
-
   testing::TempStore store_;
   Database& db_ = store_.Open();
 };
@@ -44,7 +39,7 @@ TEST_F(Declarations, RowsAreReadBackExactly) {
     ASSERT_EQ(InsertRow(db_, line), 1);
     lines.push_back(line);
   }
-  EXPECT_EQ(ValuesOf(Lines<EmployeeRow>(1)), ValuesOf(lines));
+  EXPECT_EQ(ValuesOf(LinesOf<EmployeeRow>(db_, 1)), ValuesOf(lines));
 }
 
 // Common lines read by register number as text, then surname, pay month and
@@ -71,8 +66,8 @@ TEST_F(Declarations, LinesReadInTheirTextOrderNotByRowNumber) {
     for (const auto& line : lines) rows.push_back(line.row_num);
     return rows;
   };
-  EXPECT_EQ(order(Lines<EmployeeRow>(3)), (std::vector<int>{6, 5, 4, 3, 2, 1}));
-  EXPECT_EQ(order(Lines<ConEmployeeRow>(3)), (std::vector<int>{6, 3, 5, 4, 2, 1}));
+  EXPECT_EQ(order(LinesOf<EmployeeRow>(db_, 3)), (std::vector<int>{6, 5, 4, 3, 2, 1}));
+  EXPECT_EQ(order(LinesOf<ConEmployeeRow>(db_, 3)), (std::vector<int>{6, 3, 5, 4, 2, 1}));
 }
 
 // A common period is found by the exact texts of its four fields; a quote in
@@ -115,7 +110,7 @@ TEST_F(Declarations, DailyWageFixTakesAndBeforeOr) {
   EXPECT_EQ(FixDailyWages(db_, 5), 3);
   for (size_t i = 0; i < lines.size(); ++i) lines[i].daily_wages = cases[i].after;
   EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYEES"), ValuesOf(lines));
-  EXPECT_EQ(Lines<ConEmployeeRow>(5)[0].daily_wages, std::nullopt);
+  EXPECT_EQ(LinesOf<ConEmployeeRow>(db_, 5)[0].daily_wages, std::nullopt);
 }
 
 }  // namespace

@@ -62,6 +62,18 @@ std::vector<std::vector<Text>> ValuesOf(const std::vector<Row>& rows) {
   return values;
 }
 
+// The lines of a declaration of the row's kind, in their reading order.
+template <class Row>
+std::vector<Row> LinesOf(Database& db, int id) {
+  const Kind kind = std::is_same_v<Row, EmployeeRow> ? Kind::Common : Kind::Construction;
+  return SelectLines<Row>(db, TablesOf(kind).lines, TablesOf(kind).order, id);
+}
+
+// Adds `count` lines to declaration `id` of the kind in one statement: line n
+// (from 1) of the person 100000000 + n, or of 999999999 from line `shared` on
+// when that is above 0, surnamed "S<n>", every other column Null.
+void AddLines(Database& db, Kind kind, int id, int count, int shared = 0);
+
 // Every column of every row of a table, in the order the rows were stored.
 std::vector<std::vector<Text>> DumpTable(Database& db, const char* table);
 
