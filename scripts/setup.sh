@@ -6,11 +6,14 @@ cd "$(dirname "$0")/.."
 
 packages=(
   g++ cmake ninja-build pkg-config  # compiler and build
-  qt6-base-dev                      # Qt 6 Core, Gui, Widgets (and the gif/ico picture plugins)
+  qt6-base-dev                      # Qt 6 Core, Gui, Widgets, Print Support (and the picture plugins)
+  qt6-tools-dev qt6-l10n-tools      # lrelease: our Greek translation of Qt's own dialogs
   libsqlcipher-dev                  # SQLite with encryption: the declaration store
   libgtest-dev libgmock-dev         # the tests
   libbenchmark-dev                  # the benchmarks in bench/
   fonts-dejavu-core                 # a font with Greek glyphs
+  fonts-liberation                  # Liberation Mono: the printouts' monospaced Greek font
+  poppler-utils                     # pdftotext: the tests read the printed PDF back
 )
 if ! dpkg -s "${packages[@]}" >/dev/null 2>&1; then
   sudo_cmd=""
