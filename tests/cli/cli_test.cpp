@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "filing/texts.h"
+#include "printing/texts.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
 
@@ -23,13 +24,16 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   Database& db = store.Open();
   db.Exec(
       "INSERT INTO QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year, "
-      "declaration_type, CreateFlDate) VALUES (3, '01', '2002', '03', '2002', '01', '05/03/2002');"
+      "declaration_type, CreateFlDate, emp_employer_id, taxation_number) VALUES (3, '01', "
+      "'2002', '03', '2002', '01', '05/03/2002', '1', '2');"
       "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year) VALUES (4, '07', '2004');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (3, 1, '1'), (3, 2, '1')");
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days) VALUES "
+      "(3, 1, '1', '1', '1'), (3, 2, '1', '0', '0')");
   store.vars.StoreConnection.reset();
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   ASSERT_TRUE(QDir().mkdir(out));
   const QString usage = u"veroxia-cli: "_s;
+  const QString page1 = u"\n\n\n\n"_s, of = printing_texts::kOf;
   const struct {
     QStringList args;
     int status;
@@ -44,6 +48,12 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
       {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kSumTitle + u'\n', {}},
+      {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kPage1 + u"1"_s + of + u"2\n"_s, {}},
+      {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"construction"_s, u"4"_s, u"--text"_s}, 0, page1 + printing_texts::kConPage1 + u"1"_s + of + u"1\n"_s, {}},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"1"_s, u"--text"_s}, 1, {}, printing_texts::kProblem + u'\n'},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"print needs a printout, a kind, an id and --text\n"_s},
+      {{u"--store"_s, path, u"print"_s, u"form"_s, u"common"_s, u"3"_s, u"--text"_s}, 2, {}, usage + u"the printout is summary or declaration\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind is common or construction\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
@@ -65,6 +75,10 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
     EXPECT_TRUE(run_out.startsWith(c.out) && run_out.isEmpty() == c.out.isEmpty());
     EXPECT_TRUE(run_err.startsWith(c.err)) << run_err.toStdString();
     EXPECT_EQ(run_err.isEmpty(), c.err.isEmpty() && c.status == 0);
+    // Pages are parted by form feeds: two pages of the declaration with lines.
+    if (c.args.contains(u"print"_s)) {
+      EXPECT_EQ(run_out.count(u'\f'), c.args.contains(u"3"_s) && c.args.contains(u"declaration"_s));
+    }
   }
   EXPECT_EQ(QDir(out).entryList(QDir::Files), QStringList{u"CSL01"_s});
   QFile volume(out + u"/CSL01"_s);
