@@ -1416,7 +1416,7 @@ Please verify the correct file name was given.</source>
     </message>
     <message>
         <source>Date Modified</source>
-        <translation>Ημερομηνία τροποποίησης</translation>
+        <translation>Τροποποίηση</translation>
     </message>
 </context>
 <context>
