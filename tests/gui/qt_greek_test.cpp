@@ -70,6 +70,8 @@ TEST(QtGreekTest, ThePrintDialogsShowNoEnglish) {
   const std::unique_ptr<QTranslator> greek(UseGreekQtTexts());  // uninstalled when deleted
   ASSERT_NE(greek, nullptr);
   QPrinter printer;
+  // A printer's own driver names its paper sizes in its own words; to PDF they are Qt's.
+  printer.setOutputFormat(QPrinter::PdfFormat);
   QPrintPreviewDialog preview(&printer);
   QPageSetupDialog page_setup(&printer);
   QPrintDialog print(&printer);
