@@ -445,7 +445,7 @@
     </message>
     <message>
         <source>Envelope Italian</source>
-        <translation>Φάκελος ιταλικός</translation>
+        <translation>Ιταλικός φάκελος</translation>
     </message>
     <message>
         <source>Double Postcard</source>
@@ -469,7 +469,7 @@
     </message>
     <message>
         <source>Envelope Personal</source>
-        <translation>Φάκελος προσωπικός</translation>
+        <translation>Προσωπικός φάκελος</translation>
     </message>
 </context>
 <context>
