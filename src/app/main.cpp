@@ -7,10 +7,12 @@
 #include "gui/app_font.h"
 #include "gui/app_screens.h"
 #include "gui/qt_dialogs.h"
+#include "gui/qt_greek.h"
 #include "shell/vars.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
+  veroxia::UseGreekQtTexts();
   veroxia::UseProgramFont();
 
   veroxia::Vars vars;
