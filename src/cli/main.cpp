@@ -4,11 +4,12 @@
 // same pages as its printout buttons, and tells the same messages on standard
 // error.
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 #include <cstdio>
 
 #include "filing/create_file.h"
+#include "gui/paper/pdf_printer.h"
 #include "printing/printout.h"
 #include "printing/text_printer.h"
 #include "shell/errors.h"
@@ -36,10 +37,11 @@ const char* const kHelp =
     "  volumes common|construction ID DIRECTORY\n"
     "                                    writes the submission file of the\n"
     "                                    declaration into DIRECTORY\n"
-    "  print summary|declaration common|construction ID --text\n"
+    "  print summary|declaration common|construction ID --pdf FILE|--text\n"
     "                                    the pages of the summary form or of\n"
-    "                                    the whole declaration on standard\n"
-    "                                    output, a form feed between pages\n"
+    "                                    the whole declaration: as a PDF file,\n"
+    "                                    or as text on standard output with a\n"
+    "                                    form feed between pages\n"
     "\n"
     "Options:\n"
     "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
@@ -112,7 +114,9 @@ int List(Database& db) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication app(argc, argv);
+  // PDF files are drawn with Qt Gui, on the platform that needs no display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QGuiApplication app(argc, argv);
   QStringList args = QCoreApplication::arguments().mid(1);
   if (args.isEmpty() || args.contains(u"--help"_s)) {
     std::fputs(kHelp, args.isEmpty() ? stderr : stdout);
@@ -128,14 +132,18 @@ int main(int argc, char** argv) {
   Kind kind = Kind::Common;
   Printout printout = Printout::kSummary;
   QString id_text;
+  QString pdf_file;  // empty: the pages as text
   if (command == u"volumes") {
     if (args.size() != 4) return Usage(u"volumes needs a kind, an id and a directory"_s);
     if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
     id_text = args[2];
   } else if (command == u"print") {
-    if (args.size() != 5 || args[4] != u"--text") {
-      return Usage(u"print needs a printout, a kind, an id and --text"_s);
+    const bool text = args.size() == 5 && args[4] == u"--text";
+    const bool pdf = args.size() == 6 && args[4] == u"--pdf";
+    if (!text && !pdf) {
+      return Usage(u"print needs a printout, a kind, an id and --pdf FILE or --text"_s);
     }
+    pdf_file = pdf ? args[5] : QString();
     if (args[1] == u"declaration") {
       printout = Printout::kDeclaration;
     } else if (args[1] != u"summary") {
@@ -174,8 +182,13 @@ int main(int argc, char** argv) {
   vars.DeclarationId = static_cast<std::int16_t>(id);
   if (command == u"print") {
     ConsoleDialogs dialogs({});
-    TextPrinter printer(stdout);
-    return RunPrintout(vars, dialogs, kind, printout, printer) ? 0 : kFailed;
+    std::unique_ptr<Printer> printer;
+    if (pdf_file.isEmpty()) {
+      printer = std::make_unique<TextPrinter>(stdout);
+    } else {
+      printer = std::make_unique<PdfPrinter>(pdf_file);
+    }
+    return RunPrintout(vars, dialogs, kind, printout, *printer) ? 0 : kFailed;
   }
   ConsoleDialogs dialogs(args[3]);
   return CreateFile(vars, dialogs, kind) == FileOutcome::kWritten ? 0 : kFailed;

@@ -52,7 +52,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kPage1 + u"1"_s + of + u"2\n"_s, {}},
       {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"construction"_s, u"4"_s, u"--text"_s}, 0, page1 + printing_texts::kConPage1 + u"1"_s + of + u"1\n"_s, {}},
       {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"1"_s, u"--text"_s}, 1, {}, printing_texts::kProblem + u'\n'},
-      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"print needs a printout, a kind, an id and --text\n"_s},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"print needs a printout, a kind, an id and --pdf FILE or --text\n"_s},
       {{u"--store"_s, path, u"print"_s, u"form"_s, u"common"_s, u"3"_s, u"--text"_s}, 2, {}, usage + u"the printout is summary or declaration\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind is common or construction\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
