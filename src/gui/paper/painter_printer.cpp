@@ -35,7 +35,6 @@ qsizetype FittingLength(const QString& line, qsizetype from, const QFontMetricsF
 }  // namespace
 
 PrinterError SystemPrinterError(int code) {
-  // The system's words in its own language, whatever the machine's locale.
   static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", locale_t{});
   return {code, QString::fromLocal8Bit(strerror_l(code, c_locale))};
 }

@@ -34,7 +34,7 @@ namespace veroxia {
 inline constexpr char16_t kPrintoutFamily[] = u"Liberation Mono";
 
 // The failure of a system call that set errno to `code`: its number and the
-// system's words for it, in the same language whatever the machine's locale.
+// system's words for it, those of the C locale whatever the machine's.
 PrinterError SystemPrinterError(int code);
 
 class PainterPrinter : public Printer {

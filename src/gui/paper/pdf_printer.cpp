@@ -16,8 +16,9 @@ PdfPrinter::PdfPrinter(const QString& path, const std::optional<PdfPage>& page)
 }
 
 PdfPrinter::~PdfPrinter() {
-  paper_.reset();   // painting ends before
-  writer_.reset();  // the file, never committed here, is removed
+  // Painting ends before the file goes, and with it a file not committed.
+  paper_.reset();
+  writer_.reset();
 }
 
 QPageLayout PdfPrinter::PageLayout() const { return writer_->pageLayout(); }

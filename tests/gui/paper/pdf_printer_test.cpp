@@ -15,6 +15,7 @@
 #include <QStringDecoder>
 #include <QTemporaryDir>
 #include <cerrno>
+#include <tuple>
 
 #include "support/pdf_text.h"
 #include "support/printers.h"
@@ -48,7 +49,6 @@ Pages RoundTrip(const Pages& pages) {
 }
 
 class PdfTextTest : public ::testing::Test {
- protected:
   void SetUp() override {
     if (!testing::HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
   }
@@ -131,26 +131,24 @@ TEST(PdfPrinterTest, AbandonedJobLeavesNothing) {
   EXPECT_EQ(earlier.readAll(), "earlier");
 }
 
+// Each with the system's words, whatever the machine's language.
 TEST(PdfPrinterTest, UnwritablePathFailsWithTheSystemError) {
   QTemporaryDir dir;
   QFile plain(dir.filePath(u"plain"_s));
   ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
-  const struct {
-    QString path;
-    PrinterError error;  // the system's words, whatever the machine's language
-  } cases[] = {
-      {dir.filePath(u"missing/out.pdf"_s), {ENOENT, u"No such file or directory"_s}},
-      {dir.filePath(u"plain/out.pdf"_s), {ENOTDIR, u"Not a directory"_s}},
-      {dir.path(), {EISDIR, u"Is a directory"_s}},
+  const std::tuple<QString, int, QString> cases[] = {
+      {u"missing/out.pdf"_s, ENOENT, u"No such file or directory"_s},
+      {u"plain/out.pdf"_s, ENOTDIR, u"Not a directory"_s},
+      {u"."_s, EISDIR, u"Is a directory"_s},
   };
-  for (const auto& one : cases) {
-    PdfPrinter printer(one.path);
+  for (const auto& [path, code, description] : cases) {
+    PdfPrinter printer(dir.filePath(path));
     try {
       printer.SetFontSize(u"10"_s);
-      ADD_FAILURE() << "no failure for " << one.path.toStdString();
+      ADD_FAILURE() << "no failure for " << path.toStdString();
     } catch (const PrinterError& error) {
-      EXPECT_EQ(error.code, one.error.code) << one.path.toStdString();
-      EXPECT_EQ(error.description, one.error.description);
+      EXPECT_EQ(error.code, code) << path.toStdString();
+      EXPECT_EQ(error.description, description);
     }
   }
 }
