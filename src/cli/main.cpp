@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QStringList>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 #include "filing/create_file.h"
 #include "gui/paper/pdf_printer.h"
@@ -113,10 +115,23 @@ int List(Database& db) {
 
 }  // namespace
 
+// PDF files are drawn with Qt Gui, on the platform that needs no display;
+// everything else needs Qt Core alone.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--pdf") == 0) {
+      qputenv("QT_QPA_PLATFORM", "offscreen");
+      return std::make_unique<QGuiApplication>(argc, argv);
+    }
+  }
+  return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 int main(int argc, char** argv) {
-  // PDF files are drawn with Qt Gui, on the platform that needs no display.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication app(argc, argv);
+  // Standard error carries the program's own messages only, not Qt's notes
+  // on the environment.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  const std::unique_ptr<QCoreApplication> app = MakeApplication(argc, argv);
   QStringList args = QCoreApplication::arguments().mid(1);
   if (args.isEmpty() || args.contains(u"--help"_s)) {
     std::fputs(kHelp, args.isEmpty() ? stderr : stdout);

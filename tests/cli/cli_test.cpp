@@ -10,6 +10,8 @@
 #include "printing/texts.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/pdf_text.h"
+#include "support/printers.h"
 
 namespace veroxia {
 namespace {
@@ -86,6 +88,60 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   const QByteArray bytes = volume.readAll();
   EXPECT_EQ(bytes.size(), 416 + 180 + 2 * 140 + 5);
   EXPECT_TRUE(bytes.endsWith("\r\nEOF\r\n"));
+}
+
+// The PDF of each printout holds its pages: read back with pdftotext, line by
+// line, they are the pages the text printer gives.
+TEST(Cli, PrintoutsAsPdfGiveBackTheirPages) {
+  if (!testing::HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+  testing::TempStore store;
+  store.Open().Exec(
+      "INSERT INTO QOR_EMPLOYERS (id, declaration_type, emp_employer_id, taxation_number, "
+      "employer_name, saldate1, total_salaries1) VALUES (1, '02', '1234567', '094000000', "
+      "'ΪΫ ΑΈΡΑΣ', '01/2026', '1234,5');"
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, surname, full_day, all_days) VALUES "
+      "(1, 1, '1', 'ΆΛΦΑ', '1', '0'), (1, 2, '2', 'βήτα ϊϋΐΰ', '0', '1'), (1, 3, '3', 'Γ', '0', "
+      "'0');"
+      "INSERT INTO QOR_CON_EMPLOYERS (id, declare_type, con_descr, stop_date) VALUES "
+      "(1, '02', 'ΑΝΕΓΕΡΣΗ ΠΟΛΥΚΑΤΟΙΚΙΑΣ ΜΕ ΥΠΟΓΕΙΟ, ΙΣΟΓΕΙΟ ΚΑΙ ΤΕΣΣΕΡΙΣ ΟΡΟΦΟΥΣ ΣΤΗΝ ΑΘΗΝΑ', "
+      "'31/01/2026');"
+      "INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insured_id, married_status) VALUES "
+      "(1, 1, '7', '1'), (1, 2, '8', '0')");
+  store.vars.StoreConnection.reset();
+  for (const char* printout : {"summary", "declaration"}) {
+    for (const char* kind : {"common", "construction"}) {
+      SCOPED_TRACE(std::string(printout) + " " + kind);
+      const QStringList args{u"--store"_s,
+                             store.Path(),
+                             u"print"_s,
+                             QString::fromLatin1(printout),
+                             QString::fromLatin1(kind),
+                             u"1"_s};
+      const QString pdf = store.Dir() + u"/out.pdf"_s;
+      QProcess text, file;
+      text.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--text"_s});
+      file.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--pdf"_s, pdf});
+      ASSERT_TRUE(text.waitForFinished(60'000) && file.waitForFinished(60'000));
+      ASSERT_EQ(file.exitCode(), 0) << file.readAllStandardError().toStdString();
+      ASSERT_EQ(text.exitCode(), 0);
+      // The pages as text, without the blanks at the ends of the lines and
+      // the empty lines below the last text, which a PDF does not hold.
+      QList<QStringList> expected;
+      for (const QString& page : QString::fromUtf8(text.readAllStandardOutput()).split(u'\f')) {
+        QStringList lines;
+        for (const QString& line : page.split(u'\n')) {
+          qsizetype end = line.size();
+          while (end > 0 && line[end - 1] == u' ') --end;
+          lines << line.first(end);
+        }
+        while (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+        expected << lines;
+      }
+      const QList<QStringList> read = testing::PdfPagesByPosition(pdf);
+      EXPECT_EQ(read, expected);
+      EXPECT_EQ(read.size(), std::string_view(printout) == "summary" ? 1 : 3);
+    }
+  }
 }
 
 }  // namespace

@@ -31,4 +31,12 @@ QString PdfText(const QString& path, const PdfColumns& columns = {});
 // not come back.
 QList<QStringList> PdfPages(const QString& text);
 
+// The pages of a PDF file of one monospaced font, rebuilt from where
+// pdftotext finds each word (its bounding box): the row from the top margin
+// in line spacings, the column from the left margin in character widths,
+// both measured off the words themselves. Unlike the text layout, this keeps
+// every empty line above and between texts. Lines lose the blanks at their
+// ends; a page, the empty lines below its last text.
+QList<QStringList> PdfPagesByPosition(const QString& path, double margin = 10);
+
 }  // namespace veroxia::testing

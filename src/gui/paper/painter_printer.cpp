@@ -7,6 +7,8 @@
 #include <QPagedPaintDevice>
 #include <cerrno>
 
+#include "filing/volume_files.h"
+
 namespace veroxia {
 
 namespace {
@@ -36,7 +38,7 @@ qsizetype FittingLength(const QString& line, qsizetype from, const QFontMetricsF
 
 PrinterError SystemPrinterError(int code) {
   static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", locale_t{});
-  return {code, QString::fromLocal8Bit(strerror_l(code, c_locale))};
+  return {code, FileErrorDescription(code, QString::fromLocal8Bit(strerror_l(code, c_locale)))};
 }
 
 PainterPrinter::PainterPrinter(QPagedPaintDevice& device, std::function<void()> abort)

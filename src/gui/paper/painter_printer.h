@@ -33,8 +33,9 @@ namespace veroxia {
 // The family the printouts' font falls back to.
 inline constexpr char16_t kPrintoutFamily[] = u"Liberation Mono";
 
-// The failure of a system call that set errno to `code`: its number and the
-// system's words for it, those of the C locale whatever the machine's.
+// The failure of a system call that set errno to `code`: its number and what
+// it means, in our words for the errors a user can meet (no room, no
+// permission, no such directory), else the system's in the C locale.
 PrinterError SystemPrinterError(int code);
 
 class PainterPrinter : public Printer {

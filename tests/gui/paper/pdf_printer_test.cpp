@@ -17,6 +17,7 @@
 #include <cerrno>
 #include <tuple>
 
+#include "filing/texts.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
 
@@ -137,8 +138,8 @@ TEST(PdfPrinterTest, UnwritablePathFailsWithTheSystemError) {
   QFile plain(dir.filePath(u"plain"_s));
   ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
   const std::tuple<QString, int, QString> cases[] = {
-      {u"missing/out.pdf"_s, ENOENT, u"No such file or directory"_s},
-      {u"plain/out.pdf"_s, ENOTDIR, u"Not a directory"_s},
+      {u"missing/out.pdf"_s, ENOENT, filing_texts::kDirectoryMissing},
+      {u"plain/out.pdf"_s, ENOTDIR, filing_texts::kDirectoryMissing},
       {u"."_s, EISDIR, u"Is a directory"_s},
   };
   for (const auto& [path, code, description] : cases) {
