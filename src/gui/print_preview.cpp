@@ -3,7 +3,11 @@
 #include <QPaintEngine>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QGuiApplication>
 #include <QPrinter>
+#include <QScreen>
+#include <QWidget>
+#include <algorithm>
 
 #include "gui/paper/painter_printer.h"
 #include "gui/paper/pdf_printer.h"
@@ -70,6 +74,13 @@ void ShowPrintPreview(QWidget* parent, const DrawPrintout& draw) {
   });
   dialog.DrawNow();
   if (failed) return;
+  // Tall enough to read a whole page at once.
+  if (const QScreen* screen =
+          parent != nullptr ? parent->screen() : QGuiApplication::primaryScreen()) {
+    const QRect area = screen->availableGeometry();
+    const int height = area.height() * 9 / 10;
+    dialog.resize(std::min(area.width() * 9 / 10, height * 4 / 5), height);
+  }
   dialog.exec();
 }
 
