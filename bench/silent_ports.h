@@ -14,6 +14,7 @@ class SilentDialogs : public Dialogs {
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return search; }
   QString AskDirectory() override { return {}; }
+  void PrintPreview(const std::function<bool(Printer&)>&) override {}
 
   int messages = 0;
   SearchAnswer search;

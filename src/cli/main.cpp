@@ -1,13 +1,19 @@
-// veroxia-cli: the store's declarations and their submission files without a
-// window or a display, for scripts. It writes the same volumes, byte for byte,
-// as the program's "Δημιουργία αρχείου", and tells the same messages on
-// standard error.
+// veroxia-cli: the store's declarations, their submission files and their
+// printouts without a window or a display, for scripts. It writes the same
+// volumes, byte for byte, as the program's "Δημιουργία αρχείου", prints the
+// same pages as its printout buttons, and tells the same messages on standard
+// error.
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QStringList>
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 #include "filing/create_file.h"
+#include "gui/paper/pdf_printer.h"
+#include "printing/printout.h"
+#include "printing/text_printer.h"
 #include "shell/errors.h"
 #include "shell/ports.h"
 #include "shell/texts.h"
@@ -33,13 +39,19 @@ const char* const kHelp =
     "  volumes common|construction ID DIRECTORY\n"
     "                                    writes the submission file of the\n"
     "                                    declaration into DIRECTORY\n"
+    "  print summary|declaration common|construction ID --pdf FILE|--text\n"
+    "                                    the pages of the summary form or of\n"
+    "                                    the whole declaration: as a PDF file,\n"
+    "                                    or as text on standard output with a\n"
+    "                                    form feed between pages\n"
     "\n"
     "Options:\n"
     "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
     "  --help         this text\n"
     "\n"
-    "Exit status: 0 when done; 1 when the store or the file failed, or the\n"
-    "declaration has no submission date; 2 for a wrong command line.\n";
+    "Exit status: 0 when done; 1 when the store, the file or the printout\n"
+    "failed, or the declaration has no submission date; 2 for a wrong command\n"
+    "line.\n";
 
 void Print(FILE* to, const QString& text) {
   QString lines = text;
@@ -61,10 +73,25 @@ class ConsoleDialogs : public Dialogs {
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return {}; }
   QString AskDirectory() override { return directory_; }
+  // The command line has no preview: its printouts go straight to the
+  // printer the command names (RunPrintout).
+  void PrintPreview(const std::function<bool(Printer&)>&) override {}
 
  private:
   QString directory_;
 };
+
+// The kind named on the command line; false for another word.
+bool ReadKind(const QString& word, Kind& kind) {
+  if (word == u"common") {
+    kind = Kind::Common;
+  } else if (word == u"construction") {
+    kind = Kind::Construction;
+  } else {
+    return false;
+  }
+  return true;
+}
 
 int Usage(const QString& why) {
   Print(stderr, u"veroxia-cli: "_s + why);
@@ -88,8 +115,23 @@ int List(Database& db) {
 
 }  // namespace
 
+// PDF files are drawn with Qt Gui, on the platform that needs no display;
+// everything else needs Qt Core alone.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    if (std::strcmp(argv[i], "--pdf") == 0) {
+      qputenv("QT_QPA_PLATFORM", "offscreen");
+      return std::make_unique<QGuiApplication>(argc, argv);
+    }
+  }
+  return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 int main(int argc, char** argv) {
-  QCoreApplication app(argc, argv);
+  // Standard error carries the program's own messages only, not Qt's notes
+  // on the environment.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+  const std::unique_ptr<QCoreApplication> app = MakeApplication(argc, argv);
   QStringList args = QCoreApplication::arguments().mid(1);
   if (args.isEmpty() || args.contains(u"--help"_s)) {
     std::fputs(kHelp, args.isEmpty() ? stderr : stdout);
@@ -103,19 +145,35 @@ int main(int argc, char** argv) {
   }
   const QString command = args.value(0);
   Kind kind = Kind::Common;
-  int id = 0;
+  Printout printout = Printout::kSummary;
+  QString id_text;
+  QString pdf_file;  // empty: the pages as text
   if (command == u"volumes") {
     if (args.size() != 4) return Usage(u"volumes needs a kind, an id and a directory"_s);
-    if (args[1] == u"construction") {
-      kind = Kind::Construction;
-    } else if (args[1] != u"common") {
-      return Usage(u"the kind is common or construction"_s);
+    if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
+    id_text = args[2];
+  } else if (command == u"print") {
+    const bool text = args.size() == 5 && args[4] == u"--text";
+    const bool pdf = args.size() == 6 && args[4] == u"--pdf";
+    if (!text && !pdf) {
+      return Usage(u"print needs a printout, a kind, an id and --pdf FILE or --text"_s);
     }
-    bool number = false;
-    id = args[2].toInt(&number);
-    if (!number || id < 1 || id > 32767) return Usage(u"the id is a number from 1 to 32767"_s);
+    pdf_file = pdf ? args[5] : QString();
+    if (args[1] == u"declaration") {
+      printout = Printout::kDeclaration;
+    } else if (args[1] != u"summary") {
+      return Usage(u"the printout is summary or declaration"_s);
+    }
+    if (!ReadKind(args[2], kind)) return Usage(u"the kind is common or construction"_s);
+    id_text = args[3];
   } else if (command != u"list" || args.size() != 1) {
     return Usage(u"unknown command: "_s + args.join(u' '));
+  }
+  int id = 0;
+  if (command != u"list") {
+    bool number = false;
+    id = id_text.toInt(&number);
+    if (!number || id < 1 || id > 32767) return Usage(u"the id is a number from 1 to 32767"_s);
   }
 
   Vars vars;
@@ -137,6 +195,16 @@ int main(int argc, char** argv) {
     }
   }
   vars.DeclarationId = static_cast<std::int16_t>(id);
+  if (command == u"print") {
+    ConsoleDialogs dialogs({});
+    std::unique_ptr<Printer> printer;
+    if (pdf_file.isEmpty()) {
+      printer = std::make_unique<TextPrinter>(stdout);
+    } else {
+      printer = std::make_unique<PdfPrinter>(pdf_file);
+    }
+    return RunPrintout(vars, dialogs, kind, printout, *printer) ? 0 : kFailed;
+  }
   ConsoleDialogs dialogs(args[3]);
   return CreateFile(vars, dialogs, kind) == FileOutcome::kWritten ? 0 : kFailed;
 }

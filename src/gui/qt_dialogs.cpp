@@ -12,8 +12,10 @@
 #include <vector>
 
 #include "gui/dir_view.h"
+#include "gui/print_preview.h"
 #include "gui/search_view.h"
 #include "lines/texts.h"
+#include "printing/text_printer.h"
 #include "shell/dir_form.h"
 #include "shell/search_form.h"
 #include "shell/texts.h"
@@ -212,6 +214,16 @@ void QtDialogs::SetBusy(bool busy) {
   } else {
     QGuiApplication::restoreOverrideCursor();
   }
+}
+
+void QtDialogs::PrintPreview(const std::function<bool(Printer&)>& draw) {
+  BeforeBoxOpens::RunAll();
+  if (unattended_) {
+    TextPrinter pages(stdout);
+    draw(pages);
+    return;
+  }
+  ShowPrintPreview(Owner(), draw);
 }
 
 }  // namespace veroxia

@@ -58,6 +58,10 @@ class QtDialogs : public Dialogs {
   // (OK leaves the hourglass on for the writing that follows); cancelled at
   // once in unattended runs.
   QString AskDirectory() override;
+  // The print preview over the window shown now, modal. In unattended runs
+  // no window opens: the pages go as text to standard output, a form feed
+  // between them.
+  void PrintPreview(const std::function<bool(Printer&)>& draw) override;
 
   bool Busy() const { return busy_; }
 

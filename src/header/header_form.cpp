@@ -3,6 +3,7 @@
 #include "filing/create_file.h"
 #include "header/date_box.h"
 #include "header/texts.h"
+#include "printing/printout.h"
 #include "rules/texts.h"
 #include "shell/carry_over.h"
 #include "shell/errors.h"
@@ -266,13 +267,9 @@ void HeaderForm::OpenLines() {
   screens_.ShowLines(layout_.kind);
 }
 
-void HeaderForm::PrintCmd_Click() {
-  dialogs_.Message(header_texts::kNotAvailable, texts::kAppTitle);
-}
+void HeaderForm::PrintCmd_Click() { PrintDeclaration(vars_, dialogs_, layout_.kind); }
 
-void HeaderForm::PrintSumCmd_Click() {
-  dialogs_.Message(header_texts::kNotAvailable, texts::kAppTitle);
-}
+void HeaderForm::PrintSumCmd_Click() { PrintSummary(vars_, dialogs_, layout_.kind); }
 
 void HeaderForm::CreateFile_Click() { CreateFile(vars_, dialogs_, layout_.kind); }
 

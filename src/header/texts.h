@@ -130,7 +130,6 @@ inline const QString kNameConContributions = u"ΕΙΣΦΟΡΩΝ"_s;
 inline const QString kConSaveErrorFirstLine = u"ΠΡΟΣΟΧΗ!! Παρουσιάστηκε πρόβλημα!"_s;
 
 // Our own texts, for what the program must still answer clearly.
-inline const QString kNotAvailable = u"Η λειτουργία αυτή δεν είναι ακόμη διαθέσιμη."_s;
 inline const QString kLoadFailed = u"Παρουσιάστηκε πρόβλημα στην ανάγνωση των στοιχείων του εργοδότη."_s;
 // clang-format on
 

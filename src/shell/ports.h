@@ -3,6 +3,9 @@
 // the windowing side. The GUI implements these for real; the tests with fakes.
 
 #include <QString>
+#include <functional>
+
+#include "printing/printer.h"
 
 #include "store/kind.h"
 
@@ -32,6 +35,11 @@ class Dialogs {
   // The target-directory dialog, modal: the full path of the chosen
   // directory, or an empty text when the user cancelled.
   virtual QString AskDirectory() = 0;
+  // The print preview of a printout, modal: `draw` prints the whole printout
+  // on the printer it is given and answers false when it failed (the user
+  // has been told and the job abandoned). The preview draws the pages to
+  // show them, and again on the printer or file the user sends them to.
+  virtual void PrintPreview(const std::function<bool(Printer&)>& draw) = 0;
 };
 
 // Which main screen is shown; exactly one at a time. Showing a screen closes

@@ -7,8 +7,11 @@
 #include <QProcess>
 
 #include "filing/texts.h"
+#include "printing/texts.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/pdf_text.h"
+#include "support/printers.h"
 
 namespace veroxia {
 namespace {
@@ -23,13 +26,16 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   Database& db = store.Open();
   db.Exec(
       "INSERT INTO QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year, "
-      "declaration_type, CreateFlDate) VALUES (3, '01', '2002', '03', '2002', '01', '05/03/2002');"
+      "declaration_type, CreateFlDate, emp_employer_id, taxation_number) VALUES (3, '01', "
+      "'2002', '03', '2002', '01', '05/03/2002', '1', '2');"
       "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year) VALUES (4, '07', '2004');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (3, 1, '1'), (3, 2, '1')");
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days) VALUES "
+      "(3, 1, '1', '1', '1'), (3, 2, '1', '0', '0')");
   store.vars.StoreConnection.reset();
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   ASSERT_TRUE(QDir().mkdir(out));
   const QString usage = u"veroxia-cli: "_s;
+  const QString page1 = u"\n\n\n\n"_s, of = printing_texts::kOf;
   const struct {
     QStringList args;
     int status;
@@ -44,6 +50,12 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
       {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kSumTitle + u'\n', {}},
+      {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kPage1 + u"1"_s + of + u"2\n"_s, {}},
+      {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"construction"_s, u"4"_s, u"--text"_s}, 0, page1 + printing_texts::kConPage1 + u"1"_s + of + u"1\n"_s, {}},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"1"_s, u"--text"_s}, 1, {}, printing_texts::kProblem + u'\n'},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"print needs a printout, a kind, an id and --pdf FILE or --text\n"_s},
+      {{u"--store"_s, path, u"print"_s, u"form"_s, u"common"_s, u"3"_s, u"--text"_s}, 2, {}, usage + u"the printout is summary or declaration\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind is common or construction\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
@@ -65,6 +77,10 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
     EXPECT_TRUE(run_out.startsWith(c.out) && run_out.isEmpty() == c.out.isEmpty());
     EXPECT_TRUE(run_err.startsWith(c.err)) << run_err.toStdString();
     EXPECT_EQ(run_err.isEmpty(), c.err.isEmpty() && c.status == 0);
+    // Pages are parted by form feeds: two pages of the declaration with lines.
+    if (c.args.contains(u"print"_s)) {
+      EXPECT_EQ(run_out.count(u'\f'), c.args.contains(u"3"_s) && c.args.contains(u"declaration"_s));
+    }
   }
   EXPECT_EQ(QDir(out).entryList(QDir::Files), QStringList{u"CSL01"_s});
   QFile volume(out + u"/CSL01"_s);
@@ -72,6 +88,60 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   const QByteArray bytes = volume.readAll();
   EXPECT_EQ(bytes.size(), 416 + 180 + 2 * 140 + 5);
   EXPECT_TRUE(bytes.endsWith("\r\nEOF\r\n"));
+}
+
+// The PDF of each printout holds its pages: read back with pdftotext, line by
+// line, they are the pages the text printer gives.
+TEST(Cli, PrintoutsAsPdfGiveBackTheirPages) {
+  if (!testing::HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+  testing::TempStore store;
+  store.Open().Exec(
+      "INSERT INTO QOR_EMPLOYERS (id, declaration_type, emp_employer_id, taxation_number, "
+      "employer_name, saldate1, total_salaries1) VALUES (1, '02', '1234567', '094000000', "
+      "'ΪΫ ΑΈΡΑΣ', '01/2026', '1234,5');"
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, surname, full_day, all_days) VALUES "
+      "(1, 1, '1', 'ΆΛΦΑ', '1', '0'), (1, 2, '2', 'βήτα ϊϋΐΰ', '0', '1'), (1, 3, '3', 'Γ', '0', "
+      "'0');"
+      "INSERT INTO QOR_CON_EMPLOYERS (id, declare_type, con_descr, stop_date) VALUES "
+      "(1, '02', 'ΑΝΕΓΕΡΣΗ ΠΟΛΥΚΑΤΟΙΚΙΑΣ ΜΕ ΥΠΟΓΕΙΟ, ΙΣΟΓΕΙΟ ΚΑΙ ΤΕΣΣΕΡΙΣ ΟΡΟΦΟΥΣ ΣΤΗΝ ΑΘΗΝΑ', "
+      "'31/01/2026');"
+      "INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insured_id, married_status) VALUES "
+      "(1, 1, '7', '1'), (1, 2, '8', '0')");
+  store.vars.StoreConnection.reset();
+  for (const char* printout : {"summary", "declaration"}) {
+    for (const char* kind : {"common", "construction"}) {
+      SCOPED_TRACE(std::string(printout) + " " + kind);
+      const QStringList args{u"--store"_s,
+                             store.Path(),
+                             u"print"_s,
+                             QString::fromLatin1(printout),
+                             QString::fromLatin1(kind),
+                             u"1"_s};
+      const QString pdf = store.Dir() + u"/out.pdf"_s;
+      QProcess text, file;
+      text.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--text"_s});
+      file.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--pdf"_s, pdf});
+      ASSERT_TRUE(text.waitForFinished(60'000) && file.waitForFinished(60'000));
+      ASSERT_EQ(file.exitCode(), 0) << file.readAllStandardError().toStdString();
+      ASSERT_EQ(text.exitCode(), 0);
+      // The pages as text, without the blanks at the ends of the lines and
+      // the empty lines below the last text, which a PDF does not hold.
+      QList<QStringList> expected;
+      for (const QString& page : QString::fromUtf8(text.readAllStandardOutput()).split(u'\f')) {
+        QStringList lines;
+        for (const QString& line : page.split(u'\n')) {
+          qsizetype end = line.size();
+          while (end > 0 && line[end - 1] == u' ') --end;
+          lines << line.first(end);
+        }
+        while (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+        expected << lines;
+      }
+      const QList<QStringList> read = testing::PdfPagesByPosition(pdf);
+      EXPECT_EQ(read, expected);
+      EXPECT_EQ(read.size(), std::string_view(printout) == "summary" ? 1 : 3);
+    }
+  }
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <memory>
 #include <vector>
 
+#include "printing/printer.h"
 #include "shell/ports.h"
 #include "shell/vars.h"
 #include "store/schema.h"
@@ -15,15 +16,45 @@
 
 namespace veroxia::testing {
 
+// A printer that keeps what it is told: its calls in order ("size 10",
+// "name …", "print", "new page", "end", "kill") and the text of each page.
+class CapturePrinter : public Printer {
+ public:
+  void SetFontSize(const QString& size) override { Call(QStringLiteral("size ") + size); }
+  void SetFontName(const QString& name) override { Call(QStringLiteral("name ") + name); }
+  void Print(const QString& text) override {
+    Call(QStringLiteral("print"));
+    if (pages.empty()) pages.emplace_back();
+    pages.back() += text;
+  }
+  void NewPage() override {
+    Call(QStringLiteral("new page"));
+    pages.emplace_back();
+  }
+  void EndDoc() override { Call(QStringLiteral("end")); }
+  void KillDoc() override { calls << QStringLiteral("kill"); }
+
+  QStringList calls;
+  std::vector<QString> pages;
+  int fails_at = -1;  // the call, counted from 0, that throws a PrinterError
+
+ private:
+  void Call(const QString& call) {
+    if (calls.size() == fails_at) throw PrinterError{28, QStringLiteral("No space left on device")};
+    calls << call;
+  }
+};
+
 struct ShownMessage {
   QString text;
   QString title;
+  bool busy = false;  // the hourglass was showing when it opened
 };
 
 class FakeDialogs : public Dialogs {
  public:
   void Message(const QString& text, const QString& title) override {
-    messages.push_back({text, title});
+    messages.push_back({text, title, busy});
   }
   bool Ask(const QString& text, const QString& title, AskStyle style) override {
     questions.push_back({text, title});
@@ -54,6 +85,13 @@ class FakeDialogs : public Dialogs {
     return answer;
   }
 
+  // Draws the printout once on a capture printer, as the preview would.
+  void PrintPreview(const std::function<bool(Printer&)>& draw) override {
+    printers.emplace_back();
+    printers.back().fails_at = printer_fails_at;
+    printed.push_back(draw(printers.back()));
+  }
+
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
 
   std::vector<ShownMessage> messages;
@@ -66,6 +104,9 @@ class FakeDialogs : public Dialogs {
   int searches_asked = 0;
   std::deque<QString> directories;  // scripted answers of the directory dialog; cancel when none
   int directories_asked = 0;
+  std::vector<CapturePrinter> printers;  // one for each preview, in order
+  std::vector<bool> printed;             // what each drawing answered
+  int printer_fails_at = -1;             // see CapturePrinter::fails_at
 };
 
 class FakeScreens : public Screens {

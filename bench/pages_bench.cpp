@@ -1,0 +1,48 @@
+// The pages of the declaration printout of a large payroll, of each kind:
+// composed one at a time from the store, nothing drawn. Items are lines of
+// page text.
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+
+#include "payroll.h"
+#include "printing/pages.h"
+#include "store/store_file.h"
+
+namespace {
+
+using namespace veroxia;
+using namespace veroxia::bench;
+
+long ResidentKb() {
+  QFile statm(QStringLiteral("/proc/self/statm"));
+  if (!statm.open(QIODevice::ReadOnly)) return 0;
+  const QList<QByteArray> fields = statm.readAll().split(' ');
+  return fields.size() > 1 ? fields[1].toLong() * 4 : 0;
+}
+
+void BM_ComposeDeclarationPages(benchmark::State& state) {
+  auto db = Database::Open(PayrollFile(), StorePassword());
+  const Kind kind = state.range(0) == 0 ? Kind::Common : Kind::Construction;
+  qint64 lines = 0;
+  int pages = 0;
+  long growth = 0;
+  for (auto _ : state) {
+    const long before = ResidentKb();
+    std::unique_ptr<Pages> composer = ComposePages(*db, kind, Printout::kDeclaration, kPayrollId);
+    QString page;
+    pages = 0;
+    while (composer->Next(page)) {
+      lines += page.count(u'\n') + 1;
+      ++pages;
+    }
+    growth = std::max(growth, ResidentKb() - before);
+  }
+  state.SetItemsProcessed(lines);
+  state.counters["pages"] = pages;
+  state.counters["rss_growth_kb"] = static_cast<double>(growth);
+}
+BENCHMARK(BM_ComposeDeclarationPages)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+}  // namespace

@@ -1,0 +1,91 @@
+#include "support/pdf_text.h"
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <cmath>
+
+namespace veroxia::testing {
+
+namespace {
+
+const QString kProgram = QStringLiteral("pdftotext");
+
+}  // namespace
+
+bool HavePdfToText() { return !QStandardPaths::findExecutable(kProgram).isEmpty(); }
+
+QString PdfText(const QString& path, const PdfColumns& columns) {
+  const QString whole_page = QStringLiteral("100000");
+  QProcess run;
+  run.start(kProgram, {QStringLiteral("-layout"), QStringLiteral("-fixed"),
+                       QString::number(columns.pitch), QStringLiteral("-x"),
+                       QString::number(columns.left), QStringLiteral("-y"), QStringLiteral("0"),
+                       QStringLiteral("-W"), whole_page, QStringLiteral("-H"), whole_page,
+                       QStringLiteral("-enc"), QStringLiteral("UTF-8"), path, QStringLiteral("-")});
+  const bool finished = run.waitForFinished(60'000);
+  if (!finished || run.exitStatus() != QProcess::NormalExit || run.exitCode() != 0) {
+    ADD_FAILURE() << "pdftotext failed on " << path.toStdString() << ": "
+                  << run.readAllStandardError().toStdString();
+    return {};
+  }
+  return QString::fromUtf8(run.readAllStandardOutput());
+}
+
+QList<QStringList> PdfPages(const QString& text) {
+  QList<QStringList> pages;
+  QStringList page_texts = text.split(u'\f');
+  page_texts.removeLast();  // what follows the last form feed
+  for (const QString& page_text : page_texts) {
+    QStringList lines;
+    for (const QString& line : page_text.split(u'\n')) {
+      qsizetype end = line.size();
+      while (end > 0 && line[end - 1].isSpace()) --end;
+      lines.append(line.first(end));
+    }
+    while (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
+    pages.append(lines);
+  }
+  return pages;
+}
+
+QList<QStringList> PdfPagesByPosition(const QString& path, double margin) {
+  QProcess run;
+  run.start(kProgram, {QStringLiteral("-bbox"), QStringLiteral("-enc"), QStringLiteral("UTF-8"),
+                       path, QStringLiteral("-")});
+  if (!run.waitForFinished(60'000) || run.exitCode() != 0) {
+    ADD_FAILURE() << "pdftotext -bbox failed on " << path.toStdString();
+    return {};
+  }
+  const QString html = QString::fromUtf8(run.readAllStandardOutput());
+  static const QRegularExpression word(QStringLiteral(
+      R"re(<word xMin="([\d.]+)" yMin="([\d.]+)" xMax="([\d.]+)" yMax="([\d.]+)">([^<]*)</word>)re"));
+  QList<QStringList> pages;
+  for (const QString& page : html.split(QStringLiteral("<page "), Qt::SkipEmptyParts).mid(1)) {
+    QStringList lines;
+    for (auto found = word.globalMatch(page); found.hasNext();) {
+      const QRegularExpressionMatch w = found.next();
+      QString text = w.captured(5);
+      text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
+          .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
+          .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
+          .replace(QStringLiteral("&apos;"), QStringLiteral("'"))
+          .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
+      const double x_min = w.captured(1).toDouble(), y_min = w.captured(2).toDouble();
+      const double pitch = (w.captured(3).toDouble() - x_min) / text.size();
+      const double spacing = w.captured(4).toDouble() - y_min;
+      const auto row = static_cast<qsizetype>(std::lround((y_min - margin) / spacing));
+      const auto column = static_cast<qsizetype>(std::lround((x_min - margin) / pitch));
+      while (lines.size() <= row) lines.append(QString());
+      QString& line = lines[row];
+      if (line.size() < column) line += QString(column - line.size(), u' ');
+      line.replace(column, text.size(), text);
+    }
+    pages.append(lines);
+  }
+  return pages;
+}
+
+}  // namespace veroxia::testing
