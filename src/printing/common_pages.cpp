@@ -73,14 +73,7 @@ void CommonDeclaration::PageHeader(PageText& page, const Header& h, int number, 
 
 void CommonDeclaration::Block(PageText& page, const Line& l) {
   page.Line(pt::kBranchKad, FieldText(l.emp_branch_id), u" / "_s, FieldText(l.kad));
-  page.Line(pt::kInsuredId, FieldText(l.insured_id));
-  page.Line(pt::kAmka, FieldText(l.amka));
-  page.Line(pt::kSurname, FieldText(l.surname));
-  page.Line(pt::kName, FieldText(l.name));
-  page.Line(pt::kFather, FieldText(l.father_name));
-  page.Line(pt::kMother, FieldText(l.mother_name));
-  page.Line(pt::kBirth, FieldText(l.birth_date));
-  page.Line(pt::kAfm, FieldText(l.taxation_id));
+  PersonLines(page, l, pt::kAmka);
   page.Line(pt::kFullDay, YesNo(l.full_day, pt::kFullDay, l.row_num));
   page.Line(pt::kAllDays, YesNo(l.all_days, pt::kAllDays, l.row_num));
   page.Line(pt::kSundays, FieldText(l.sundays_sum));
@@ -94,9 +87,7 @@ void CommonDeclaration::Block(PageText& page, const Line& l) {
   page.Line(pt::kInsuranceDays, FieldText(l.insurance_days));
   page.Line(pt::kDailyWage, Amount(l.daily_wages));
   page.Line(pt::kSalary, Amount(l.salary));
-  page.Line(pt::kInsuredContr, Amount(l.insured_contr));
-  page.Line(pt::kEmployerContr, Amount(l.employer_contr));
-  page.Line(pt::kTotalContr, Amount(l.total_contr));
+  ContributionLines(page, l);
   page.Line(pt::kSubsidy, Amount(l.subsidy_amount));
   page.Line(pt::kSubsidyPercent, Amount(l.emp_subsidy_percent));
   page.Line(pt::kSubsidyAmount, Amount(l.emp_subsidy_amount));

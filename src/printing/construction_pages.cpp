@@ -66,14 +66,7 @@ void ConstructionDeclaration::PageHeader(PageText& page, const Header& h, int nu
 void ConstructionDeclaration::Block(PageText& page, const Line& l) {
   page.Line(pt::kConBranch1);
   page.Line(pt::kConBranch2, FieldText(l.ovt_code));
-  page.Line(pt::kInsuredId, FieldText(l.insured_id));
-  page.Line(pt::kConAmka, FieldText(l.amka));
-  page.Line(pt::kSurname, FieldText(l.surname));
-  page.Line(pt::kName, FieldText(l.name));
-  page.Line(pt::kFather, FieldText(l.father_name));
-  page.Line(pt::kMother, FieldText(l.mother_name));
-  page.Line(pt::kBirth, FieldText(l.birth_date));
-  page.Line(pt::kAfm, FieldText(l.taxation_id));
+  PersonLines(page, l, pt::kConAmka);
   page.Line(pt::kMarital, FieldText(l.married_status) == u"1" ? pt::kMarried : pt::kUnmarried);
   page.Line(pt::kTriennia, FieldText(l.triennium_num));
   page.Line(pt::kSundays, FieldText(l.sundays_sum));
@@ -89,9 +82,7 @@ void ConstructionDeclaration::Block(PageText& page, const Line& l) {
   page.Line(pt::kPhase1);
   page.Line(pt::kPhase2, FieldText(l.phase_code));
   page.Line(pt::kCostingDays, FieldText(l.costing_days));
-  page.Line(pt::kInsuredContr, Amount(l.insured_contr));
-  page.Line(pt::kEmployerContr, Amount(l.employer_contr));
-  page.Line(pt::kTotalContr, Amount(l.total_contr));
+  ContributionLines(page, l);
 }
 
 void ConstructionDeclaration::LastPage(PageText& page, const Header& h, int pages) {

@@ -7,6 +7,8 @@
 #include <QString>
 
 #include "printing/page_text.h"
+#include "printing/texts.h"
+#include "rules/texts.h"
 #include "store/kind.h"
 #include "store/schema.h"
 
@@ -40,5 +42,28 @@ struct ConstructionDeclaration {
   static void Block(PageText& page, const Line& line);
   static void LastPage(PageText& page, const Header& header, int pages);
 };
+
+// The lines both kinds' blocks share: the person (the AMKA label differs
+// between the two), and the three contributions.
+template <class Line>
+void PersonLines(PageText& page, const Line& l, const QString& amka_label) {
+  namespace pt = printing_texts;
+  page.Line(pt::kInsuredId, FieldText(l.insured_id));
+  page.Line(amka_label, FieldText(l.amka));
+  page.Line(pt::kSurname, FieldText(l.surname));
+  page.Line(pt::kName, FieldText(l.name));
+  page.Line(pt::kFather, FieldText(l.father_name));
+  page.Line(pt::kMother, FieldText(l.mother_name));
+  page.Line(pt::kBirth, FieldText(l.birth_date));
+  page.Line(pt::kAfm, FieldText(l.taxation_id));
+}
+
+template <class Line>
+void ContributionLines(PageText& page, const Line& l) {
+  namespace pt = printing_texts;
+  page.Line(pt::kInsuredContr, page_values::Amount(l.insured_contr));
+  page.Line(pt::kEmployerContr, page_values::Amount(l.employer_contr));
+  page.Line(pt::kTotalContr, page_values::Amount(l.total_contr));
+}
 
 }  // namespace veroxia
