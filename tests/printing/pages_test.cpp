@@ -174,7 +174,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
   header.total_salaries1 = std::nullopt;
   header.total_salaries2 = u"1234,5"_s;
   header.total_salaries3 = u"0"_s;
-  header.total_salaries = u"99999999,99"_s;
+  header.total_salaries = u"12345678901234,5"_s;  // longer than its room: written whole
   header.total_contributions1 = header.total_contributions2 = header.total_contributions3 = u"7"_s;
   header.total_contributions = u"21"_s;
   InsertRow(db_, header);
@@ -208,7 +208,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       pt::kFromPage1 + from + pt::kToPage1 + to, u""_s,
       pt::kPerMonthPage1 + u"01/2026"_s + B(10) + u"02/2026"_s + B(10) + u"03/2026"_s + pt::kTotalsHeading,
       pt::kDaysPage1 + B(7) + u"1"_s + B(9) + B(7) + u"0"_s + B(9) + B(6) + u"22"_s + B(9) + B(4) + u"1234"_s,
-      pt::kSalaries + B(12) + u"0,00 "_s + B(8) + u"1.234,50 "_s + B(12) + u"0,00 "_s + B(3) + u"99.999.999,99"_s,
+      pt::kSalaries + B(12) + u"0,00 "_s + B(8) + u"1.234,50 "_s + B(12) + u"0,00 "_s + u"12.345.678.901.234,50"_s,
       pt::kPaid + B(12) + u"7,00 "_s + B(12) + u"7,00 "_s + B(12) + u"7,00 "_s + B(11) + u"21,00"_s,
       u""_s
           // clang-format on

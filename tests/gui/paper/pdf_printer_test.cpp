@@ -46,7 +46,7 @@ Pages RoundTrip(const Pages& pages) {
   PdfPrinter printer(dir.filePath(u"out.pdf"_s));
   PrintPages(printer, pages);
   printer.EndDoc();
-  return testing::PdfPages(testing::PdfText(dir.filePath(u"out.pdf"_s)));
+  return testing::PdfPagesByPosition(dir.filePath(u"out.pdf"_s));
 }
 
 class PdfTextTest : public ::testing::Test {
