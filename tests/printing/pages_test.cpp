@@ -90,8 +90,8 @@ TEST_F(PagesTest, CommonSummaryOfOneMonth) {
   InsertRow(db_, With<EmployerRow>(0, {
                                           // clang-format off
       {"declaration_type", "01"}, {"declaration_descr", "ΚΑΝΟΝΙΚΗ "},
-      {"orgbra_branch_code", " 12 "}, {"orgbra_branch_descr", "ΑΘΗΝΩΝ"}, {"employer_name", "ΑΛΦΑ"},
-      {"emp_first_name", "ΒΗΤΑ"}, {"emp_father_name", "ΓΑΜΑ"}, {"emp_employer_id", "0123456 "},
+      {"orgbra_branch_code", " 12 "}, {"orgbra_branch_descr", "ΑΘΗΝΩΝ"}, {"employer_name", QString(50, u'Ω')},
+      {"emp_first_name", "ΒΗΤΑΣ"}, {"emp_father_name", "ΓΑΜΑ"}, {"emp_employer_id", "0123456 "},
       {"taxation_number", "094000000"}, {"address_street", "ΣΤΑΔΙΟΥ"}, {"num", "5"},
       {"zip_code", "10562"}, {"city", "ΑΘΗΝΑ"}, {"from_month", "01"}, {"from_year", "2026"},
       {"to_month", "01"}, {"to_year", "2026"}, {"saldate1", "01/2026"}, {"saldate2", " "},
@@ -104,7 +104,7 @@ TEST_F(PagesTest, CommonSummaryOfOneMonth) {
           // clang-format off
       u""_s, u""_s, u""_s, u""_s, pt::kSumTitle, pt::kSumSubtitle, u""_s, u""_s,
       pt::kType + u"01 ΚΑΝΟΝΙΚΗ "_s, u""_s, pt::kBranch1, pt::kBranch2 + u"12 ΑΘΗΝΩΝ"_s, u""_s,
-      pt::kEmployer + u"ΑΛΦΑ ΒΗΤΑ ΓΑΜΑ"_s, u""_s, pt::kSumAme + u"0123456 "_s,
+      pt::kEmployer + QString(50, u'Ω') + u" ΒΗΤΑΣ "_s, B(27) + u"ΓΑΜΑ"_s, u""_s, pt::kSumAme + u"0123456 "_s,
       pt::kSumAfm + u"094000000"_s, u""_s, pt::kAddress + u"ΣΤΑΔΙΟΥ 5"_s, B(27) + u"10562 ΑΘΗΝΑ"_s,
       u""_s, pt::kFrom + u"01/2026"_s, pt::kTo + u"01/2026"_s, u""_s, pt::kSumColumns1,
       pt::kSumColumns2, u""_s,
