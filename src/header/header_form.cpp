@@ -6,6 +6,7 @@
 #include "printing/printout.h"
 #include "rules/texts.h"
 #include "shell/carry_over.h"
+#include "shell/check_digit_prompt.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
 
@@ -287,7 +288,7 @@ void HeaderForm::SaveCmd_Click() {
   if (vars_.CarryOver) {
     // Taken over from the previous declaration and locked: stored unchecked.
     SaveData();
-  } else if (ValidateHeader()) {
+  } else if (ValidateHeader() && ConfirmCheckDigits(*this, dialogs_, layout_.fields)) {
     SaveData();
   }
 }

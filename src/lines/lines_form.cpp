@@ -4,6 +4,7 @@
 #include "lines/texts.h"
 #include "rules/numbers.h"
 #include "rules/texts.h"
+#include "shell/check_digit_prompt.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
 
@@ -294,7 +295,7 @@ void LinesForm::ShowStoreError(const StoreError& error) {
 
 void LinesForm::InsertData() {
   std::optional<BusyPointer> busy(std::in_place, dialogs_);
-  if (!CheckLine()) return;
+  if (!CheckLine() || !ConfirmCheckDigits(*this, dialogs_, layout_.fields)) return;
   const ColumnValues values = StoredValues();
   int row_num = 0;
   try {
@@ -317,7 +318,7 @@ void LinesForm::InsertData() {
 
 void LinesForm::UpdateLine() {
   std::optional<BusyPointer> busy(std::in_place, dialogs_);
-  if (!CheckLine()) return;
+  if (!CheckLine() || !ConfirmCheckDigits(*this, dialogs_, layout_.fields)) return;
   const LineAddress address{current_rowid_, Id(), RowNumberOf(current_row_num_),
                             current_insured_id_};
   int changed = 0;

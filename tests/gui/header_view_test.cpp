@@ -179,13 +179,13 @@ TEST_P(HeaderBoxTest, TypingAndSavingStoresTheHeaderUnderTheLockedScreen) {
 
 const Typed kCommonValid = {
     {u"Text2"_s, u"123"_s},        {u"Text3"_s, u"Αθήνα"_s},     {u"Text4"_s, u"Εταιρεία"_s},
-    {u"Text5"_s, u"1234567890"_s}, {u"Text6"_s, u"123456789"_s}, {u"Text7"_s, u"Οδός"_s},
+    {u"Text5"_s, u"1234567890"_s}, {u"Text6"_s, u"094014201"_s}, {u"Text7"_s, u"Οδός"_s},
     {u"Text9"_s, u"12345"_s},      {u"Text10"_s, u"Πόλη"_s},     {u"FlDateTxt"_s, u"05032002"_s}};
 const Typed kConstructionValid = {
     {u"Text2"_s, u"123"_s},        {u"Text3"_s, u"Αθήνα"_s},       {u"Text4"_s, u"Εταιρεία"_s},
     {u"Text5"_s, u"Οδός"_s},       {u"Text7"_s, u"12345"_s},       {u"Text8"_s, u"Πόλη"_s},
     {u"Text9"_s, u"Οδός"_s},       {u"Text10"_s, u"1234567890"_s}, {u"Text11"_s, u"1234567890"_s},
-    {u"Text12"_s, u"123456789"_s}, {u"Text13"_s, u"Οδός"_s},       {u"Text15"_s, u"12345"_s},
+    {u"Text12"_s, u"094014201"_s}, {u"Text13"_s, u"Οδός"_s},       {u"Text15"_s, u"12345"_s},
     {u"Text16"_s, u"Πόλη"_s},      {u"FlDateTxt"_s, u"05032002"_s}};
 
 const auto kKinds =

@@ -64,7 +64,7 @@ class OvtForm1Test : public ::testing::Test {
     const std::pair<const char*, QString> typed[] = {
         {"Text2", u"123"_s}, {"Text3", u"Αθηνών"_s}, {"Text4", u"Ηλίας Α.Ε."_s},
         {"FirstNmTxt", {}}, {"FatherNmTxt", {}}, {"Text5", u"1234567890"_s},
-        {"Text6", u"123456789"_s}, {"Text7", u"Πατησίων"_s}, {"Text8", {}}, {"Text9", u"10434"_s},
+        {"Text6", u"094014201"_s}, {"Text7", u"Πατησίων"_s}, {"Text8", {}}, {"Text9", u"10434"_s},
         {"Text10", u"Αθήνα"_s}, {"FlDateTxt", kEmptyDateBox}, {"StopDateTxt", kEmptyDateBox}};
     // clang-format on
     for (const auto& [field, text] : typed) form_->Type(QString::fromLatin1(field), text);

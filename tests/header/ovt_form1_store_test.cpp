@@ -199,5 +199,20 @@ TEST_F(OvtForm1Store, TakenOverHeaderIsStoredUncheckedWithTheLinesUnderTheNewId)
   EXPECT_EQ(HeaderCount(), 2);
 }
 
+// A tax number with a wrong check digit is stored only when the user says so.
+TEST_F(OvtForm1Store, AWrongCheckDigitIsAQuestion) {
+  OvtForm1& form = Open();
+  TypeValidHeader();
+  form.Type(u"Text6"_s, u"123456789"_s);
+  form.SaveCmd_Click();
+  ASSERT_EQ(dialogs_.questions.size(), 1u);
+  EXPECT_TRUE(dialogs_.questions[0].text.contains(u"'123456789'"_s));
+  EXPECT_EQ(form.FocusedField(), u"Text6"_s);
+  EXPECT_FALSE(Stored().has_value());
+  dialogs_.answers = {true};
+  form.SaveCmd_Click();
+  EXPECT_EQ(Stored()->taxation_number, u"123456789"_s);
+}
+
 }  // namespace
 }  // namespace veroxia

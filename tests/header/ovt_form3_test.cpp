@@ -71,7 +71,7 @@ const std::vector<RuleStep>& Rules() {
       {"Text9", u"  "_s, Fixed(kConDescrBlank), false, u"Πολυκατοικία"_s},
       {"Text10", u"123"_s, Integer(kNameAme, 10, true), true, u"1234567890"_s},
       {"Text11", u"12345"_s, Integer(kNameAmoe, 10, true), true, u"0987654321"_s},
-      {"Text12", u"12345678"_s, Integer(kNameAfm, 9, true), true, u"123456789"_s},
+      {"Text12", u"12345678"_s, Integer(kNameAfm, 9, true), true, u"094014201"_s},
       {"Text13", u""_s, Fixed(kStreetBlank), false, u"Σόλωνος"_s},
       {"Text15", u"abcde"_s, Integer(kNameTk, 5, true), false, u"10672"_s},
       {"Text16", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s},

@@ -296,5 +296,28 @@ TEST_F(OvtForm2Test, BackClosesWithoutAskingAndTheCloseBoxAsks) {
   EXPECT_EQ(dialogs_.questions.size(), 2u);
 }
 
+// A wrong check digit is a question, not a refusal: No keeps the line out of
+// the store with the number selected, Yes stores it as typed.
+TEST_F(OvtForm2Test, AWrongCheckDigitIsStoredOnlyWhenTheUserSaysSo) {
+  Open();
+  TypeValidLine();
+  form_->Type(u"Text20"_s, u"12345678901"_s);  // AMKA, Luhn digit wrong
+  form_->Type(u"Text26"_s, u"123456789"_s);    // tax number, digit wrong
+  form_->OkCmd_Click();
+  ASSERT_EQ(dialogs_.questions.size(), 1u);
+  EXPECT_TRUE(dialogs_.questions[0].text.contains(u"'12345678901'"_s));
+  EXPECT_EQ(dialogs_.last_style, AskStyle::Question);
+  EXPECT_EQ(form_->FocusedField(), u"Text20"_s);
+  EXPECT_EQ(form_->SelectionOf(u"Text20"_s)->length, 11);
+  EXPECT_EQ(Stored(), Lines{});
+
+  dialogs_.answers = {true, true};
+  form_->OkCmd_Click();
+  EXPECT_EQ(dialogs_.questions.size(), 3u);
+  EXPECT_TRUE(dialogs_.questions[2].text.contains(u"'123456789'"_s));
+  EXPECT_EQ(dialogs_.LastMessage(), kInsertDone);
+  EXPECT_EQ(Stored().size(), 1u);
+}
+
 }  // namespace
 }  // namespace veroxia::testing
