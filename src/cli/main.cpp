@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "filing/create_file.h"
+#include "filing/totals.h"
 #include "gui/paper/pdf_printer.h"
 #include "printing/printout.h"
 #include "printing/text_printer.h"
@@ -39,6 +40,9 @@ const char* const kHelp =
     "  volumes common|construction ID DIRECTORY\n"
     "                                    writes the submission file of the\n"
     "                                    declaration into DIRECTORY\n"
+    "  check common|construction ID      the header's totals against the sums\n"
+    "                                    of the lines; exit status 0 when all\n"
+    "                                    agree, 1 when not, 2 on an error\n"
     "  print summary|declaration common|construction ID --pdf FILE|--text\n"
     "                                    the pages of the summary form or of\n"
     "                                    the whole declaration: as a PDF file,\n"
@@ -113,7 +117,23 @@ int List(Database& db) {
   return 0;
 }
 
-}  // namespace
+// The totals report: 0 when everything agrees, 1 when not, 2 on an error.
+int Check(Database& db, Kind kind, int id) {
+  try {
+    const std::optional<TotalsReport> report = CompareTotals(db, kind, id);
+    if (!report) {
+      Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
+      return kUsage;
+    }
+    for (const QString& line : TotalsText(*report)) Print(stdout, line);
+    if (report->AllAgree()) return 0;
+    Print(stderr, kTotalsDisagree);
+    return kFailed;
+  } catch (const StoreError& error) {
+    Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+    return kUsage;
+  }
+}
 
 // PDF files are drawn with Qt Gui, on the platform that needs no display;
 // everything else needs Qt Core alone.
@@ -126,6 +146,8 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
   }
   return std::make_unique<QCoreApplication>(argc, argv);
 }
+
+}  // namespace
 
 int main(int argc, char** argv) {
   // Standard error carries the program's own messages only, not Qt's notes
@@ -150,6 +172,10 @@ int main(int argc, char** argv) {
   QString pdf_file;  // empty: the pages as text
   if (command == u"volumes") {
     if (args.size() != 4) return Usage(u"volumes needs a kind, an id and a directory"_s);
+    if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
+    id_text = args[2];
+  } else if (command == u"check") {
+    if (args.size() != 3) return Usage(u"check needs a kind and an id"_s);
     if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
     id_text = args[2];
   } else if (command == u"print") {
@@ -195,6 +221,7 @@ int main(int argc, char** argv) {
     }
   }
   vars.DeclarationId = static_cast<std::int16_t>(id);
+  if (command == u"check") return Check(*vars.StoreConnection, kind, id);
   if (command == u"print") {
     ConsoleDialogs dialogs({});
     std::unique_ptr<Printer> printer;

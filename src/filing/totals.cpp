@@ -1,0 +1,185 @@
+#include "filing/totals.h"
+
+#include <array>
+
+#include "rules/formats.h"
+#include "rules/numbers.h"
+#include "rules/texts.h"
+#include "store/declarations.h"
+
+namespace veroxia {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Our own texts.
+const QString kDays = u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ"_s;
+const QString kWorkDays = u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ"_s;
+const QString kWages = u"ΑΠΟΔΟΧΕΣ"_s;
+const QString kPaid = u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ"_s;
+const QString kContributions = u"ΕΙΣΦΟΡΕΣ"_s;
+const QString kWhole = u"ΣΥΝΟΛΟ"_s;
+const QString kAgrees = u"ΣΥΜΦΩΝΕΙ"_s;
+const QString kDiffers = u"ΔΙΑΦΕΡΕΙ"_s;
+const QString kHeading = u"ΣΤΟΙΧΕΙΟ\tΕΠΙΚΕΦΑΛΙΔΑ\tΓΡΑΜΜΕΣ\tΔΙΑΦΟΡΑ\tΕΛΕΓΧΟΣ"_s;
+const QString kUnreadable =
+    u"Η γραμμή %1 έχει στη στήλη %2 την τιμή '%3', που δεν είναι αριθμός."_s;
+
+// A number as hundredths, exactly, rounded half away from zero past two
+// decimals; empty for a text that is not a number or too large.
+std::optional<qint64> Hundredths(const QString& text) {
+  const std::optional<Decimal> decimal = ReadDecimal(text);
+  if (!decimal) return std::nullopt;
+  QString digits = decimal->digits;
+  const int shift = decimal->exponent + 2;
+  bool round_up = false;
+  if (shift >= 0) {
+    digits += QString(shift, u'0');
+  } else {
+    const qsizetype cut = std::min<qsizetype>(-shift, digits.size());
+    round_up = digits[digits.size() - cut] >= u'5' && cut == -shift;
+    digits.chop(cut);
+  }
+  if (digits.size() > 17) return std::nullopt;
+  qint64 value = digits.isEmpty() ? 0 : digits.toLongLong();
+  if (round_up) ++value;
+  return decimal->negative ? -value : value;
+}
+
+QString Shown(qint64 hundredths, bool days) {
+  if (days && hundredths % 100 == 0) return QString::number(hundredths / 100);
+  const qint64 whole = hundredths < 0 ? -hundredths : hundredths;
+  return FormatAmount((hundredths < 0 ? u"-"_s : QString()) + QString::number(whole / 100) + u',' +
+                      QString::number(whole % 100).rightJustified(2, u'0'));
+}
+
+// One quantity compared: the header's column and the lines' column.
+struct Quantity {
+  QString label;
+  const char* header;
+  const char* lines;
+  bool days;
+};
+
+TotalsRow Compare(const QString& label, const Text& header, qint64 sum, bool days) {
+  TotalsRow row;
+  row.label = label;
+  row.header = FieldText(header);
+  row.lines = Shown(sum, days);
+  if (const auto value = Hundredths(row.header)) {
+    row.header = Shown(*value, days);
+    row.difference = Shown(*value - sum, days);
+    row.agrees = *value == sum;
+  }
+  return row;
+}
+
+// The month of a line's payroll period, as the header's labels write it.
+QString MonthOf(const Text& month, const Text& year) {
+  bool ok = false;
+  const int number = FieldText(month).toInt(&ok);
+  return ok ? QString::number(number).rightJustified(2, u'0') + u'/' + FieldText(year) : QString();
+}
+
+}  // namespace
+
+const QString kTotalsDisagree =
+    u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων."_s;
+
+bool TotalsReport::AllAgree() const {
+  if (!unreadable.empty()) return false;
+  for (const TotalsRow& row : rows) {
+    if (!row.agrees) return false;
+  }
+  return true;
+}
+
+std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
+  const bool common = kind == Kind::Common;
+  std::vector<std::pair<QString, Text>> header;
+  {
+    Rows row = HeaderRow(db, kind, id);
+    if (!row->Next()) return std::nullopt;
+    for (int column = 0; column < row->ColumnCount(); ++column) {
+      header.emplace_back(row->ColumnName(column), row->Value(column));
+    }
+  }
+  const auto value = [&](const QString& column) {
+    for (const auto& [name, text] : header) {
+      if (name == column) return text;
+    }
+    return Text();
+  };
+  const std::vector<Quantity> quantities =
+      common ? std::vector<Quantity>{{kDays, "total_days", "insurance_days", true},
+                                     {kWages, "total_salaries", "salary", false},
+                                     {kPaid, "total_contributions", "payed_contr", false}}
+             : std::vector<Quantity>{{kWorkDays, "sum_days", "insurance_days", true},
+                                     {kWages, "sum_salaries", "salary", false},
+                                     {kContributions, "sum_contr", "total_contr", false}};
+  // The months of the period, from the header's labels.
+  std::vector<QString> months;
+  if (common) {
+    for (int m = 1; m <= 3; ++m) months.push_back(FieldText(value(u"saldate%1"_s.arg(m))));
+  }
+  std::vector<std::array<qint64, 4>> sums(quantities.size(), {0, 0, 0, 0});  // months, whole
+
+  TotalsReport report;
+  Rows lines = LinesInOrder(db, kind, id);
+  const int row_num = lines->ColumnIndex(u"row_num"_s);
+  const int sal_month = lines->ColumnIndex(u"sal_month"_s);
+  const int sal_year = lines->ColumnIndex(u"sal_year"_s);
+  std::vector<int> columns;
+  for (const Quantity& q : quantities)
+    columns.push_back(lines->ColumnIndex(QString::fromLatin1(q.lines)));
+  while (lines->Next()) {
+    int month = -1;
+    if (common) {
+      const QString label = MonthOf(lines->Value(sal_month), lines->Value(sal_year));
+      for (int m = 0; m < 3; ++m) {
+        if (!label.isEmpty() && months[m] == label) month = m;
+      }
+    }
+    for (size_t q = 0; q < quantities.size(); ++q) {
+      const Text text = lines->Value(columns[q]);
+      const auto number = Hundredths(FieldText(text));
+      if (!number) {
+        report.unreadable.push_back({lines->Int(row_num), QString::fromLatin1(quantities[q].lines),
+                                     text.value_or(QString())});
+        continue;
+      }
+      if (month >= 0) sums[q][month] += *number;
+      sums[q][3] += *number;
+    }
+  }
+  for (int m = 0; m < 3 && common; ++m) {
+    if (months[m].isEmpty()) continue;
+    for (size_t q = 0; q < quantities.size(); ++q) {
+      const QString column = QString::fromLatin1(quantities[q].header) + QString::number(m + 1);
+      report.rows.push_back(Compare(quantities[q].label + u' ' + months[m], value(column),
+                                    sums[q][m], quantities[q].days));
+    }
+  }
+  for (size_t q = 0; q < quantities.size(); ++q) {
+    report.rows.push_back(Compare(quantities[q].label + u' ' + kWhole,
+                                  value(QString::fromLatin1(quantities[q].header)), sums[q][3],
+                                  quantities[q].days));
+  }
+  return report;
+}
+
+QStringList TotalsText(const TotalsReport& report) {
+  QStringList text{kHeading};
+  for (const TotalsRow& row : report.rows) {
+    text << QStringList{row.label, row.header, row.lines, row.difference,
+                        row.agrees ? kAgrees : kDiffers}
+                .join(u'\t');
+  }
+  for (const UnreadableValue& value : report.unreadable) {
+    text << kUnreadable.arg(value.row_num).arg(value.column, value.text);
+  }
+  return text;
+}
+
+}  // namespace veroxia

@@ -1,0 +1,53 @@
+#pragma once
+// The totals report: the totals typed into a declaration's header against
+// the sums of its employee lines, read with the program's own number rules,
+// before the declaration is filed. A declaration whose totals do not add up
+// is rejected by the institute.
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <vector>
+
+#include "store/database.h"
+#include "store/kind.h"
+
+namespace veroxia {
+
+struct TotalsRow {
+  QString label;       // what is compared: the quantity and its month, or the whole
+  QString header;      // the header's value: as the lines' sum is shown, or as stored
+  QString lines;       // the sum of the lines
+  QString difference;  // header less lines; empty when the header's is no number
+  bool agrees = false;
+};
+
+// A stored value of a line that is not a number: left out of the sums and
+// reported instead.
+struct UnreadableValue {
+  int row_num = 0;
+  QString column;
+  QString text;
+};
+
+struct TotalsReport {
+  std::vector<TotalsRow> rows;
+  std::vector<UnreadableValue> unreadable;
+  bool AllAgree() const;
+};
+
+// Compares the totals of the declaration: for the common kind the days,
+// wages and paid contributions of each month of the period (a line counts in
+// the month of its payroll period) and of the whole; for the construction
+// kind the days of work, wages and total contributions. Empty when no header
+// is stored. Throws StoreError.
+std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id);
+
+// What is said when the totals and the lines do not agree.
+extern const QString kTotalsDisagree;
+
+// The report as lines of text, the columns parted by tabs, for the command
+// line.
+QStringList TotalsText(const TotalsReport& report);
+
+}  // namespace veroxia
