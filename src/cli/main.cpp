@@ -65,14 +65,16 @@ void Print(FILE* to, const QString& text) {
 }
 
 // The person in front of the screen is a script: messages go to standard
-// error, questions are answered No, the directory is the one given.
+// error; a question is told there too and answered Yes, the command being the
+// answer (the volumes are written though the totals disagree, as the
+// program's file button allows); the directory is the one given.
 class ConsoleDialogs : public Dialogs {
  public:
   explicit ConsoleDialogs(QString directory) : directory_(std::move(directory)) {}
   void Message(const QString& text, const QString&) override { Print(stderr, text); }
   bool Ask(const QString& text, const QString&, AskStyle) override {
     Print(stderr, text);
-    return false;
+    return true;
   }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return {}; }

@@ -1,6 +1,7 @@
 #include "filing/create_file.h"
 
 #include "filing/texts.h"
+#include "filing/totals.h"
 #include "filing/volume_files.h"
 #include "filing/volume_writer.h"
 #include "shell/errors.h"
@@ -44,7 +45,20 @@ FileOutcome CreateFile(Vars& vars, Dialogs& dialogs, Kind kind) {
     return FileOutcome::kNoDate;
   }
 
-  busy.reset();  // the dialog shows the normal pointer
+  // Totals that do not add up are a question, not a refusal.
+  std::optional<TotalsReport> totals;
+  try {
+    totals = CompareTotals(db, kind, vars.DeclarationId);
+  } catch (const StoreError& error) {
+    busy.reset();
+    dialogs.Message(ErrorMessage(filing_texts::kWriteFailed, error), title);
+    return FileOutcome::kFailed;
+  }
+  busy.reset();  // the dialogs show the normal pointer
+  if (totals && !totals->AllAgree() &&
+      !dialogs.Ask(filing_texts::kTotalsQuestion, title, AskStyle::Question)) {
+    return FileOutcome::kCancelled;
+  }
   vars.DialogResult.clear();
   vars.DialogResult = dialogs.AskDirectory();
   if (vars.DialogResult.trimmed().isEmpty()) return FileOutcome::kCancelled;

@@ -25,6 +25,9 @@ inline const QString kNothingWritten = u"Διορθώστε το πεδίο κα
 // What a failed file operation means.
 inline const QString kDirectoryMissing = u"Ο κατάλογος δεν υπάρχει."_s;
 inline const QString kDirectoryNotWritable = u"Δεν επιτρέπεται η εγγραφή στον κατάλογο."_s;
+// The header's totals do not agree with the lines, or a value is no number or
+// a check digit is wrong.
+inline const QString kTotalsQuestion = u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων, ή κάποιος αριθμός δεν είναι σωστός (δείτε τον έλεγχο συνόλων). Θέλετε να δημιουργηθεί το αρχείο;"_s;
 // clang-format on
 
 }  // namespace veroxia::filing_texts

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "rules/check_digits.h"
 #include "rules/formats.h"
 #include "rules/numbers.h"
 #include "rules/texts.h"
@@ -25,6 +26,10 @@ const QString kDiffers = u"ΔΙΑΦΕΡΕΙ"_s;
 const QString kHeading = u"ΣΤΟΙΧΕΙΟ\tΕΠΙΚΕΦΑΛΙΔΑ\tΓΡΑΜΜΕΣ\tΔΙΑΦΟΡΑ\tΕΛΕΓΧΟΣ"_s;
 const QString kUnreadable =
     u"Η γραμμή %1 έχει στη στήλη %2 την τιμή '%3', που δεν είναι αριθμός."_s;
+const QString kWrongDigit =
+    u"Η γραμμή %1 έχει στη στήλη %2 τον αριθμό '%3', που δεν έχει σωστό ψηφίο ελέγχου."_s;
+const QString kWrongDigitHeader =
+    u"Η επικεφαλίδα έχει στη στήλη %1 τον αριθμό '%2', που δεν έχει σωστό ψηφίο ελέγχου."_s;
 
 // A number as hundredths, exactly, rounded half away from zero past two
 // decimals; empty for a text that is not a number or too large.
@@ -88,7 +93,7 @@ const QString kTotalsDisagree =
     u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων."_s;
 
 bool TotalsReport::AllAgree() const {
-  if (!unreadable.empty()) return false;
+  if (!unreadable.empty() || !check_digits.empty()) return false;
   for (const TotalsRow& row : rows) {
     if (!row.agrees) return false;
   }
@@ -103,6 +108,12 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
     if (!row->Next()) return std::nullopt;
     for (int column = 0; column < row->ColumnCount(); ++column) {
       header.emplace_back(row->ColumnName(column), row->Value(column));
+    }
+  }
+  TotalsReport report;
+  for (const auto& [name, text] : header) {
+    if (CheckDigitWarning(name, FieldText(text))) {
+      report.check_digits.push_back({0, name, FieldText(text)});
     }
   }
   const auto value = [&](const QString& column) {
@@ -125,7 +136,6 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
   }
   std::vector<std::array<qint64, 4>> sums(quantities.size(), {0, 0, 0, 0});  // months, whole
 
-  TotalsReport report;
   Rows lines = LinesInOrder(db, kind, id);
   const int row_num = lines->ColumnIndex(u"row_num"_s);
   const int sal_month = lines->ColumnIndex(u"sal_month"_s);
@@ -133,7 +143,15 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
   std::vector<int> columns;
   for (const Quantity& q : quantities)
     columns.push_back(lines->ColumnIndex(QString::fromLatin1(q.lines)));
+  const int amka = lines->ColumnIndex(u"amka"_s);
+  const int taxation_id = lines->ColumnIndex(u"taxation_id"_s);
   while (lines->Next()) {
+    for (const int column : {amka, taxation_id}) {
+      const QString number = FieldText(lines->Value(column));
+      if (CheckDigitWarning(lines->ColumnName(column), number)) {
+        report.check_digits.push_back({lines->Int(row_num), lines->ColumnName(column), number});
+      }
+    }
     int month = -1;
     if (common) {
       const QString label = MonthOf(lines->Value(sal_month), lines->Value(sal_year));
@@ -178,6 +196,10 @@ QStringList TotalsText(const TotalsReport& report) {
   }
   for (const UnreadableValue& value : report.unreadable) {
     text << kUnreadable.arg(value.row_num).arg(value.column, value.text);
+  }
+  for (const UnreadableValue& value : report.check_digits) {
+    text << (value.row_num == 0 ? kWrongDigitHeader.arg(value.column, value.text)
+                                : kWrongDigit.arg(value.row_num).arg(value.column, value.text));
   }
   return text;
 }

@@ -33,14 +33,19 @@ struct UnreadableValue {
 struct TotalsReport {
   std::vector<TotalsRow> rows;
   std::vector<UnreadableValue> unreadable;
+  // Tax numbers and AMKA whose check digit is wrong: row_num 0 for the
+  // header's.
+  std::vector<UnreadableValue> check_digits;
+  // Every total agrees, every value is a number and every check digit holds.
   bool AllAgree() const;
 };
 
 // Compares the totals of the declaration: for the common kind the days,
 // wages and paid contributions of each month of the period (a line counts in
 // the month of its payroll period) and of the whole; for the construction
-// kind the days of work, wages and total contributions. Empty when no header
-// is stored. Throws StoreError.
+// kind the days of work, wages and total contributions. The check digits of
+// the tax numbers and AMKA of the header and the lines are checked too.
+// Empty when no header is stored. Throws StoreError.
 std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id);
 
 // What is said when the totals and the lines do not agree.

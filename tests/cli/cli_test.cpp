@@ -27,13 +27,14 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   Database& db = store.Open();
   db.Exec(
       "INSERT INTO QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year, "
-      "declaration_type, CreateFlDate, emp_employer_id, taxation_number) VALUES (3, '01', "
-      "'2002', '03', '2002', '01', '05/03/2002', '1', '2');"
+      "declaration_type, CreateFlDate, emp_employer_id, taxation_number, total_days, "
+      "total_salaries, total_contributions) VALUES (3, '01', '2002', '03', '2002', '01', "
+      "'05/03/2002', '1', '2', '50', '20,5', '1');"
       "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year, sum_days, sum_salaries, "
-      "sum_contr) "
-      "VALUES (4, '07', '2004', '0', '0', '0');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days) VALUES "
-      "(3, 1, '1', '1', '1'), (3, 2, '1', '0', '0')");
+      "sum_contr) VALUES (4, '07', '2004', '0', '0', '1');"
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days, insurance_days, "
+      "salary, payed_contr) VALUES (3, 1, '1', '1', '1', '25', '10,25', '0,5'), "
+      "(3, 2, '1', '0', '0', '25', '10,25', '0,5')");
   store.vars.StoreConnection.reset();
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   ASSERT_TRUE(QDir().mkdir(out));
@@ -53,8 +54,8 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
       {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
-      {{u"--store"_s, path, u"check"_s, u"construction"_s, u"4"_s}, 0, u"ΣΤΟΙΧΕΙΟ\t"_s, {}},
-      {{u"--store"_s, path, u"check"_s, u"common"_s, u"3"_s}, 1, u"ΣΤΟΙΧΕΙΟ\t"_s, kTotalsDisagree + u'\n'},
+      {{u"--store"_s, path, u"check"_s, u"construction"_s, u"4"_s}, 1, u"ΣΤΟΙΧΕΙΟ\t"_s, kTotalsDisagree + u'\n'},
+      {{u"--store"_s, path, u"check"_s, u"common"_s, u"3"_s}, 0, u"ΣΤΟΙΧΕΙΟ\t"_s, {}},
       {{u"--store"_s, path, u"check"_s, u"common"_s, u"1"_s}, 2, {}, usage + u"no declaration 1 of that kind\n"_s},
       {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kSumTitle + u'\n', {}},
       {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kPage1 + u"1"_s + of + u"2\n"_s, {}},

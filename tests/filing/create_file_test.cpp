@@ -79,10 +79,12 @@ TEST(CreateFile, EveryWayOutOfARun) {
     testing::FakeDialogs dialogs;
     const QString directory = QString::fromLatin1(c.directory).replace(u"out"_s, out);
     dialogs.directories.push_back(directory);
+    dialogs.answers = {true};  // the totals (never agreeing here): go on
     store.vars.DeclarationId = 1;
     EXPECT_EQ(CreateFile(store.vars, dialogs, Kind::Common), c.outcome);
 
     EXPECT_EQ(dialogs.directories_asked, c.asked ? 1 : 0);
+    EXPECT_EQ(dialogs.questions.size(), c.asked ? 1u : 0u);
     if (c.message.isEmpty()) {
       EXPECT_TRUE(dialogs.messages.empty());
     } else {
@@ -96,6 +98,30 @@ TEST(CreateFile, EveryWayOutOfARun) {
     EXPECT_EQ(QDir(out).entryList(QDir::Files | QDir::Hidden), QStringList{u"CSL01"_s});
     EXPECT_FALSE(dialogs.busy);
     EXPECT_EQ(Bytes(store.Path()), stored);
+  }
+}
+
+// Totals that do not agree ask first; No writes nothing and asks no more.
+TEST(CreateFile, TotalsThatDoNotAgreeAskFirst) {
+  testing::TempStore store;
+  Database& db = store.Open();
+  db.Exec(
+      "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days, total_salaries, "
+      "total_contributions) VALUES (1, '05/03/2002', '25', '100', '10');"
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insurance_days, salary, payed_contr) "
+      "VALUES (1, 1, '25', '100', '10')");
+  store.vars.DeclarationId = 1;
+  for (const bool agree : {true, false}) {
+    if (!agree) db.Exec("UPDATE QOR_EMPLOYEES SET salary = '100,01'");
+    testing::FakeDialogs dialogs;
+    EXPECT_EQ(CreateFile(store.vars, dialogs, Kind::Common), FileOutcome::kCancelled);
+    EXPECT_EQ(dialogs.questions.size(), agree ? 0u : 1u);
+    EXPECT_EQ(dialogs.directories_asked, agree ? 1 : 0);
+    if (!agree) {
+      EXPECT_EQ(dialogs.questions[0].text, kTotalsQuestion);
+      EXPECT_EQ(dialogs.questions[0].title, kFileTitle);
+      EXPECT_EQ(dialogs.last_style, AskStyle::Question);
+    }
   }
 }
 

@@ -27,15 +27,18 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   testing::TempStore store;
   Database& db = store.Open();
   db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id, saldate1, saldate2, saldate3, total_days1, total_days2, "
+      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, saldate1, saldate2, saldate3, total_days1, "
+      "total_days2, "
       "total_days3, total_days, total_salaries1, total_salaries2, total_salaries3, "
       "total_salaries, total_contributions1, total_contributions2, total_contributions3, "
-      "total_contributions) VALUES (1, '01/2026', '02/2026', '03/2026', '26', '20', '0', '55', "
+      "total_contributions) VALUES (1, '123456789', '01/2026', '02/2026', '03/2026', '26', '20', "
+      "'0', '55', "
       "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');"
       "INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year, insurance_days, salary, "
-      "payed_contr) VALUES (1, 1, '01', '2026', '25', '1000,50', '100'), "
-      "(1, 2, '2', '2026', '20', '1000', '100'), (1, 3, '12', '2025', '10', 'x', '0'), "
-      "(1, 4, '01', '2026', ' 0 ', '0,004', NULL)");
+      "payed_contr, amka, taxation_id) VALUES (1, 1, '01', '2026', '25', '1000,50', '100', "
+      "'12345678901', '094014201'), (1, 2, '2', '2026', '20', '1000', '100', '12345678903', "
+      "'090000044'), (1, 3, '12', '2025', '10', 'x', '0', "
+      "NULL, NULL), (1, 4, '01', '2026', ' 0 ', '0,004', NULL, '', '')");
   const auto report = CompareTotals(db, Kind::Common, 1);
   ASSERT_TRUE(report);
   EXPECT_EQ(Rows(*report), (QStringList{
@@ -58,8 +61,12 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   EXPECT_EQ(report->unreadable[1].row_num, 3);
   EXPECT_EQ(report->unreadable[1].column, u"salary"_s);
   EXPECT_EQ(report->unreadable[1].text, u"x"_s);
+  ASSERT_EQ(report->check_digits.size(), 3u);  // the header's, line 1's AMKA, line 2's tax number
+  EXPECT_EQ(report->check_digits[0].row_num, 0);
+  EXPECT_EQ(report->check_digits[1].column, u"amka"_s);
+  EXPECT_EQ(report->check_digits[2].text, u"090000044"_s);
   EXPECT_FALSE(report->AllAgree());
-  EXPECT_EQ(TotalsText(*report).size(), 1 + 12 + 2);
+  EXPECT_EQ(TotalsText(*report).size(), 1 + 12 + 2 + 3);
 }
 
 TEST(Totals, ConstructionOfOneMonth) {
