@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "filing/totals.h"
 #include "filing/volume_files.h"
 #include "filing/volume_writer.h"
 #include "payroll.h"
@@ -48,6 +49,17 @@ void BM_ReadLinesBare(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * kPayrollLines);
 }
 BENCHMARK(BM_ReadLinesBare)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
+
+// The totals report: the header's totals against the sums of every line.
+void BM_CompareTotals(benchmark::State& state) {
+  auto db = Database::Open(PayrollFile(), StorePassword());
+  for (auto _ : state) {
+    const std::optional<TotalsReport> report = CompareTotals(*db, KindOf(state), kPayrollId);
+    benchmark::DoNotOptimize(report);
+  }
+  state.SetItemsProcessed(state.iterations() * kPayrollLines);
+}
+BENCHMARK(BM_CompareTotals)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_WriteVolumes(benchmark::State& state) {
   auto db = Database::Open(PayrollFile(), StorePassword());
