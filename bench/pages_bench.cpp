@@ -15,13 +15,6 @@ namespace {
 using namespace veroxia;
 using namespace veroxia::bench;
 
-long ResidentKb() {
-  QFile statm(QStringLiteral("/proc/self/statm"));
-  if (!statm.open(QIODevice::ReadOnly)) return 0;
-  const QList<QByteArray> fields = statm.readAll().split(' ');
-  return fields.size() > 1 ? fields[1].toLong() * 4 : 0;
-}
-
 void BM_ComposeDeclarationPages(benchmark::State& state) {
   auto db = Database::Open(PayrollFile(), StorePassword());
   const Kind kind = state.range(0) == 0 ? Kind::Common : Kind::Construction;

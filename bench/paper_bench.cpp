@@ -34,14 +34,6 @@ void NeedGuiApplication() {
   static QGuiApplication app(argc, argv.data());
 }
 
-// Resident memory of the process, in kilobytes.
-long ResidentKb() {
-  QFile statm(u"/proc/self/statm"_s);
-  if (!statm.open(QIODevice::ReadOnly)) return 0;
-  const QList<QByteArray> fields = statm.readAll().split(' ');
-  return fields.size() > 1 ? fields[1].toLong() * 4 : 0;
-}
-
 // A store holding a common declaration of that many lines, made once.
 const QString& StoreOf(int lines) {
   static std::map<int, std::pair<std::unique_ptr<QTemporaryDir>, QString>> stores;
@@ -72,7 +64,7 @@ void BM_PdfPrintout(benchmark::State& state) {
   }
   state.counters["pages"] = pages;
   state.counters["file_kb"] = static_cast<double>(QFileInfo(path).size() / 1024);
-  state.counters["resident_kb"] = static_cast<double>(ResidentKb());
+  state.counters["resident_kb"] = static_cast<double>(bench::ResidentKb());
 }
 BENCHMARK(BM_PdfPrintout)->Arg(1000)->Arg(4000)->Unit(benchmark::kMillisecond);
 

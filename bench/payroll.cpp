@@ -1,5 +1,6 @@
 #include "payroll.h"
 
+#include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -143,6 +144,13 @@ void MakePayrollStore(const QString& path, int lines, int persons) {
   con_header.from_year = u"2002"_s;
   InsertRow(*db, con_header);
   transaction.Commit();
+}
+
+long ResidentKb() {
+  QFile statm(QStringLiteral("/proc/self/statm"));
+  if (!statm.open(QIODevice::ReadOnly)) return 0;
+  const QList<QByteArray> fields = statm.readAll().split(' ');
+  return fields.size() > 1 ? fields[1].toLong() * 4 : 0;
 }
 
 }  // namespace veroxia::bench

@@ -19,6 +19,9 @@ void MakePayrollStore(const QString& path, int lines = kPayrollLines,
 // that changes it works on its own copy.
 const QString& PayrollFile();
 
+// Resident memory of the process, in kilobytes; 0 where it cannot be read.
+long ResidentKb();
+
 // The register number of a person of the payroll (nine digits).
 QString PayrollInsuredId(int person);
 // The surname of a person of the payroll: one of a few dozen common

@@ -21,14 +21,6 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
-// Resident memory of the process, in kilobytes.
-long ResidentKb() {
-  QFile statm(u"/proc/self/statm"_s);
-  if (!statm.open(QIODevice::ReadOnly)) return 0;
-  const QList<QByteArray> fields = statm.readAll().split(' ');
-  return fields.size() > 1 ? fields[1].toLong() * 4 : 0;
-}
-
 Kind KindOf(const benchmark::State& state) {
   return state.range(0) == 0 ? Kind::Common : Kind::Construction;
 }

@@ -31,25 +31,13 @@ const QString kWrongDigit =
 const QString kWrongDigitHeader =
     u"Η επικεφαλίδα έχει στη στήλη %1 τον αριθμό '%2', που δεν έχει σωστό ψηφίο ελέγχου."_s;
 
-// A number as hundredths, exactly, rounded half away from zero past two
-// decimals; empty for a text that is not a number or too large.
+// A number as hundredths, rounded as the amounts are formatted; empty for a
+// text that is not a number or too large.
 std::optional<qint64> Hundredths(const QString& text) {
-  const std::optional<Decimal> decimal = ReadDecimal(text);
-  if (!decimal) return std::nullopt;
-  QString digits = decimal->digits;
-  const int shift = decimal->exponent + 2;
-  bool round_up = false;
-  if (shift >= 0) {
-    digits += QString(shift, u'0');
-  } else {
-    const qsizetype cut = std::min<qsizetype>(-shift, digits.size());
-    round_up = digits[digits.size() - cut] >= u'5' && cut == -shift;
-    digits.chop(cut);
-  }
-  if (digits.size() > 17) return std::nullopt;
-  qint64 value = digits.isEmpty() ? 0 : digits.toLongLong();
-  if (round_up) ++value;
-  return decimal->negative ? -value : value;
+  if (!ReadDecimal(text)) return std::nullopt;
+  bool ok = false;
+  const qint64 value = AmountDigits(text, 0, false).toLongLong(&ok);
+  return ok ? std::optional<qint64>(value) : std::nullopt;
 }
 
 QString Shown(qint64 hundredths, bool days) {
