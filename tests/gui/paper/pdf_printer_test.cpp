@@ -55,20 +55,6 @@ class PdfTextTest : public ::testing::Test {
   }
 };
 
-TEST_F(PdfTextTest, PagesComeBackLineByLine) {
-  const Pages pages = {
-      {u"ΚΑΤΑΣΤΑΣΗ ΠΡΟΣΩΠΙΚΟΥ                                 Σελίδα:    1"_s,
-       u"ΑΜΑ     ΕΠΩΝΥΜΟ            ΟΝΟΜΑ        ΗΜΕΡΕΣ      ΑΠΟΔΟΧΕΣ"_s,
-       u"0001234 ΆΈΉΊΌΎΏ            άέήίόύώ          25      1.234,56"_s,
-       u"0001235 ΪΫ ΪΫ              ϊϋΐΰ              3         12,00"_s, u""_s,
-       u"        Σύνολο:                                28      1.246,56"_s},
-      {u"The quick brown fox (1/2) [x] {y} <z> #$%&*+=?@!;:'\"_|~^`\\"_s,
-       u"§ ° ± ² ³ µ ¶ « » £ ¤ ¦ © ¬ ® ½ ΅ Ά · € „ … ‰ ‹ › ‘ ’ “ ” • – —"_s},
-      {u"ΨΩ ψω   τέλος"_s, u"A    B"_s},
-  };
-  EXPECT_EQ(RoundTrip(pages), pages);
-}
-
 // A line wider than the page goes on in the next line, broken after the last
 // character that fits (blanks at its end do not count); a page longer than
 // the sheet goes on on the next sheet.
