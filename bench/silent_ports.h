@@ -15,6 +15,7 @@ class SilentDialogs : public Dialogs {
   SearchAnswer AskInsuredPerson() override { return search; }
   QString AskDirectory() override { return {}; }
   void PrintPreview(const std::function<bool(Printer&)>&) override {}
+  void ShowReport(const Report&) override {}
 
   int messages = 0;
   SearchAnswer search;

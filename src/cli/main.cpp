@@ -82,6 +82,9 @@ class ConsoleDialogs : public Dialogs {
   // The command line has no preview: its printouts go straight to the
   // printer the command names (RunPrintout).
   void PrintPreview(const std::function<bool(Printer&)>&) override {}
+  void ShowReport(const Report& report) override {
+    for (const QString& line : ReportText(report)) Print(stdout, line);
+  }
 
  private:
   QString directory_;
@@ -127,7 +130,7 @@ int Check(Database& db, Kind kind, int id) {
       Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
       return kUsage;
     }
-    for (const QString& line : TotalsText(*report)) Print(stdout, line);
+    for (const QString& line : ReportText(TotalsWindow(*report))) Print(stdout, line);
     if (report->AllAgree()) return 0;
     Print(stderr, kTotalsDisagree);
     return kFailed;

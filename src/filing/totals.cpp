@@ -6,6 +6,8 @@
 #include "rules/formats.h"
 #include "rules/numbers.h"
 #include "rules/texts.h"
+#include "shell/errors.h"
+#include "shell/texts.h"
 #include "store/declarations.h"
 
 namespace veroxia {
@@ -23,11 +25,14 @@ const QString kContributions = u"ΕΙΣΦΟΡΕΣ"_s;
 const QString kWhole = u"ΣΥΝΟΛΟ"_s;
 const QString kAgrees = u"ΣΥΜΦΩΝΕΙ"_s;
 const QString kDiffers = u"ΔΙΑΦΕΡΕΙ"_s;
-const QString kHeading = u"ΣΤΟΙΧΕΙΟ\tΕΠΙΚΕΦΑΛΙΔΑ\tΓΡΑΜΜΕΣ\tΔΙΑΦΟΡΑ\tΕΛΕΓΧΟΣ"_s;
+const QStringList kColumns{u"ΣΤΟΙΧΕΙΟ"_s, u"ΕΠΙΚΕΦΑΛΙΔΑ"_s, u"ΓΡΑΜΜΕΣ"_s, u"ΔΙΑΦΟΡΑ"_s,
+                           u"ΕΛΕΓΧΟΣ"_s};
+const QString kAllAgree = u"Τα σύνολα της επικεφαλίδας συμφωνούν με τις γραμμές των εργαζομένων."_s;
 const QString kUnreadable =
     u"Η γραμμή %1 έχει στη στήλη %2 την τιμή '%3', που δεν είναι αριθμός."_s;
 const QString kWrongDigit =
     u"Η γραμμή %1 έχει στη στήλη %2 τον αριθμό '%3', που δεν έχει σωστό ψηφίο ελέγχου."_s;
+const QString kNoHeader = u"Η δήλωση δεν έχει αποθηκευμένη επικεφαλίδα."_s;
 const QString kWrongDigitHeader =
     u"Η επικεφαλίδα έχει στη στήλη %1 τον αριθμό '%2', που δεν έχει σωστό ψηφίο ελέγχου."_s;
 
@@ -175,21 +180,45 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
   return report;
 }
 
-QStringList TotalsText(const TotalsReport& report) {
-  QStringList text{kHeading};
+Report TotalsWindow(const TotalsReport& report) {
+  Report shown;
+  shown.title = kTotalsTitle;
+  shown.columns = kColumns;
   for (const TotalsRow& row : report.rows) {
-    text << QStringList{row.label, row.header, row.lines, row.difference,
-                        row.agrees ? kAgrees : kDiffers}
-                .join(u'\t');
+    shown.rows.push_back(
+        {{row.label, row.header, row.lines, row.difference, row.agrees ? kAgrees : kDiffers},
+         row.agrees});
   }
   for (const UnreadableValue& value : report.unreadable) {
-    text << kUnreadable.arg(value.row_num).arg(value.column, value.text);
+    shown.notes << kUnreadable.arg(value.row_num).arg(value.column, value.text);
   }
   for (const UnreadableValue& value : report.check_digits) {
-    text << (value.row_num == 0 ? kWrongDigitHeader.arg(value.column, value.text)
-                                : kWrongDigit.arg(value.row_num).arg(value.column, value.text));
+    shown.notes << (value.row_num == 0
+                        ? kWrongDigitHeader.arg(value.column, value.text)
+                        : kWrongDigit.arg(value.row_num).arg(value.column, value.text));
   }
-  return text;
+  shown.verdict = report.AllAgree() ? kAllAgree : kTotalsDisagree;
+  return shown;
+}
+
+void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind) {
+  std::optional<TotalsReport> report;
+  std::optional<StoreError> failure;
+  {
+    BusyPointer busy(dialogs);
+    try {
+      report = CompareTotals(*vars.StoreConnection, kind, vars.DeclarationId);
+    } catch (const StoreError& error) {
+      failure = error;
+    }
+  }
+  if (failure) {
+    dialogs.Message(ErrorMessage(kTotalsNotCompared, *failure), texts::kAppTitle);
+  } else if (!report) {
+    dialogs.Message(kTotalsNotCompared + u"\r\n"_s + kNoHeader, texts::kAppTitle);
+  } else {
+    dialogs.ShowReport(TotalsWindow(*report));
+  }
 }
 
 }  // namespace veroxia

@@ -9,6 +9,9 @@
 #include <optional>
 #include <vector>
 
+#include "shell/ports.h"
+#include "shell/report.h"
+#include "shell/vars.h"
 #include "store/database.h"
 #include "store/kind.h"
 
@@ -51,8 +54,19 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id);
 // What is said when the totals and the lines do not agree.
 extern const QString kTotalsDisagree;
 
-// The report as lines of text, the columns parted by tabs, for the command
-// line.
-QStringList TotalsText(const TotalsReport& report);
+// The first line of the message when the totals could not be compared.
+inline const QString kTotalsNotCompared =
+    QStringLiteral("ΠΡΟΣΟΧΗ!! Ο έλεγχος των συνόλων δεν έγινε.");
+// The window's title and the button's caption.
+inline const QString kTotalsTitle = QStringLiteral("Έλεγχος συνόλων");
+
+// The comparison as the user reads it: a row per total with the header's
+// value, the sum of the lines, the difference and the verdict; the values
+// that are no numbers and the wrong check digits as notes.
+Report TotalsWindow(const TotalsReport& report);
+
+// "Έλεγχος συνόλων": the report of the declaration being worked on
+// (vars.DeclarationId) in its window; a store error is told instead.
+void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind);
 
 }  // namespace veroxia

@@ -69,6 +69,7 @@ void HeaderView::Wire() {
   binder_->OnClick(u"PrintCmd"_s, [this] { form_.PrintCmd_Click(); });
   binder_->OnClick(u"PrintSumCmd"_s, [this] { form_.PrintSumCmd_Click(); });
   binder_->OnClick(u"CreateFile"_s, [this] { form_.CreateFile_Click(); });
+  binder_->OnClick(u"TotalsCmd"_s, [this] { form_.TotalsCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
   binder_->FocusFirst();
   // The options show the selected type after every event.
@@ -143,6 +144,11 @@ QWidget* HeaderView::BuildTop() {
   bold.setPointSizeF(kFontPoints + 3);
   heading->setFont(bold);
   row->addWidget(heading, 1, Qt::AlignVCenter);
+  // The checks before filing sit beside the heading: the row of buttons
+  // below is full.
+  auto* checks = new QVBoxLayout;
+  checks->addWidget(binder_->Add<WrapButton>(u"TotalsCmd"_s, top));
+  row->addLayout(checks);
   auto* img = binder_->Add<QLabel>(u"Img"_s, top);
   if (!form_.ImagePath().isEmpty()) {
     QPixmap picture(form_.ImagePath());

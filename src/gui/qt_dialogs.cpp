@@ -13,6 +13,7 @@
 
 #include "gui/dir_view.h"
 #include "gui/print_preview.h"
+#include "gui/report_window.h"
 #include "gui/search_view.h"
 #include "lines/texts.h"
 #include "printing/text_printer.h"
@@ -224,6 +225,19 @@ void QtDialogs::PrintPreview(const std::function<bool(Printer&)>& draw) {
     return;
   }
   ShowPrintPreview(Owner(), draw);
+}
+
+void QtDialogs::ShowReport(const Report& report) {
+  BeforeBoxOpens::RunAll();
+  if (unattended_) {
+    for (const QString& line : ReportText(report)) {
+      std::fputs((line + u'\n').toUtf8().constData(), stdout);
+    }
+    std::fflush(stdout);
+    return;
+  }
+  ArrowWhileOpen arrow(busy_);
+  ShowReportWindow(Owner(), report);
 }
 
 }  // namespace veroxia

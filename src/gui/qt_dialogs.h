@@ -62,6 +62,9 @@ class QtDialogs : public Dialogs {
   // no window opens: the pages go as text to standard output, a form feed
   // between them.
   void PrintPreview(const std::function<bool(Printer&)>& draw) override;
+  // The report window over the window shown now; in unattended runs the
+  // report's lines go to standard output instead.
+  void ShowReport(const Report& report) override;
 
   bool Busy() const { return busy_; }
 

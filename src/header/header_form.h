@@ -54,6 +54,8 @@ class HeaderForm : public Form {
   void PrintCmd_Click();
   void PrintSumCmd_Click();
   void CreateFile_Click();
+  // The checks before filing: the totals against the lines.
+  void TotalsCmd_Click();
   // The kind's employee button: opens the employee screen of the kind; no
   // question on closing.
   void OpenLines();

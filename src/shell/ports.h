@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "printing/printer.h"
+#include "shell/report.h"
 
 #include "store/kind.h"
 
@@ -40,6 +41,8 @@ class Dialogs {
   // has been told and the job abandoned). The preview draws the pages to
   // show them, and again on the printer or file the user sends them to.
   virtual void PrintPreview(const std::function<bool(Printer&)>& draw) = 0;
+  // A report in its own window, modal, until the user closes it.
+  virtual void ShowReport(const Report& report) = 0;
 };
 
 // Which main screen is shown; exactly one at a time. Showing a screen closes

@@ -66,7 +66,10 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   EXPECT_EQ(report->check_digits[1].column, u"amka"_s);
   EXPECT_EQ(report->check_digits[2].text, u"090000044"_s);
   EXPECT_FALSE(report->AllAgree());
-  EXPECT_EQ(TotalsText(*report).size(), 1 + 12 + 2 + 3);
+  const Report shown = TotalsWindow(*report);
+  EXPECT_EQ(ReportText(shown).size(), 1 + 12 + 2 + 3 + 1);
+  EXPECT_FALSE(shown.rows.back().holds);
+  EXPECT_EQ(shown.verdict, kTotalsDisagree);
 }
 
 TEST(Totals, ConstructionOfOneMonth) {

@@ -118,6 +118,8 @@ TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks
   form->SaveData();
   Open();
   ExpectNothingCut(*view);
+  Click(*view, u"TotalsCmd"_s);  // the view state's checks open their report
+  EXPECT_EQ(dialogs.reports.size(), 1u);
   // Every box shows all it may hold; one longer than the window 36 characters.
   for (QLineEdit* box : view->findChildren<QLineEdit*>()) {
     if (!box->isVisible() || !box->inputMask().isEmpty()) continue;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 
+#include "filing/totals.h"
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
 #include "shell/texts.h"
@@ -50,6 +51,7 @@ class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface
       {u"print"_s, [this] { form_->PrintCmd_Click(); }},
       {u"printsum"_s, [this] { form_->PrintSumCmd_Click(); }},
       {u"file"_s, [this] { form_->CreateFile_Click(); }},
+      {u"totals"_s, [this] { form_->TotalsCmd_Click(); }},
       {u"exit"_s, [this] { form_->ExitCmd_Click(); }},
       {u"employees"_s, [this] { form_->QorInsert_Click(); }},
   };
@@ -94,6 +96,14 @@ const StateCase kStateCases[] = {
     // The declaration printout asks first (No), the summary goes to the
     // preview, the file asks about the totals first (No).
     {"FileAndPrintouts", "row open print printsum file", kViewState, false},
+    // The totals in their window, or why they could not be compared.
+    {"Totals", "row open totals", kViewState, false},
+    {"TotalsUnreadable",
+     "row open drop totals",
+     kViewState,
+     false,
+     {texts::kAppTitle, kTotalsNotCompared + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s +
+                            texts::kErrorDescription + kNoTable}},
     // The buttons that leave show the next screen, without a question.
     {"Returned", "open exit", kNewState, true, {}, {u"start"_s}},
     {"ToTheEmployees", "row open employees", kViewState, false, {}, {u"lines common"_s}},
@@ -116,6 +126,8 @@ TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
   EXPECT_EQ(dialogs_.questions.size(), size_t(steps.count(u"print"_s) + steps.count(u"file"_s)));
   EXPECT_EQ(dialogs_.printers.size(), size_t(steps.count(u"printsum"_s)));
   EXPECT_EQ(dialogs_.directories_asked, 0);
+  // The report shows unless a message tells why it cannot.
+  EXPECT_EQ(dialogs_.reports.size(), size_t(steps.contains(u"totals"_s) && c.messages.isEmpty()));
   ExpectBusyBalanced();
 }
 

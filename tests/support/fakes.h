@@ -92,9 +92,12 @@ class FakeDialogs : public Dialogs {
     printed.push_back(draw(printers.back()));
   }
 
+  void ShowReport(const Report& report) override { reports.push_back(report); }
+
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
 
   std::vector<ShownMessage> messages;
+  std::vector<Report> reports;
   std::vector<ShownMessage> questions;
   std::deque<bool> answers;  // scripted answers to Ask, in order; No when none is left
   AskStyle last_style = AskStyle::Plain;

@@ -1,0 +1,140 @@
+#include "gui/report_window.h"
+
+#include <QBoxLayout>
+#include <QDialog>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QTextDocument>
+#include <algorithm>
+#include <memory>
+
+namespace veroxia {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+const QString kClose = u"Κλείσιμο"_s;
+const QColor kFault(0xb0, 0x00, 0x00);
+
+// Lines of notes shown without scrolling.
+constexpr int kNoteLines = 6;
+
+QTableWidget* Table(QWidget* parent, const Report& report) {
+  auto* table = new QTableWidget(static_cast<int>(report.rows.size()),
+                                 static_cast<int>(report.columns.size()), parent);
+  table->setObjectName(u"ReportTable"_s);
+  table->setHorizontalHeaderLabels(report.columns);
+  table->verticalHeader()->hide();
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setWordWrap(false);
+  QFont marked = table->font();
+  marked.setBold(true);
+  for (int r = 0; r < table->rowCount(); ++r) {
+    const ReportRow& row = report.rows[static_cast<size_t>(r)];
+    for (int c = 0; c < table->columnCount(); ++c) {
+      auto* cell = new QTableWidgetItem(row.cells.value(c));
+      // The label reads from the left, the figures line up on the right.
+      cell->setTextAlignment(c == 0 || c == table->columnCount() - 1
+                                 ? Qt::AlignLeft | Qt::AlignVCenter
+                                 : Qt::AlignRight | Qt::AlignVCenter);
+      if (!row.holds) {
+        cell->setForeground(kFault);
+        cell->setFont(marked);
+      }
+      table->setItem(r, c, cell);
+    }
+  }
+  table->resizeColumnsToContents();
+  table->horizontalHeader()->setStretchLastSection(true);
+  table->resizeRowsToContents();
+  return table;
+}
+
+// The room the table needs to show every column and, within the screen,
+// every row.
+QSize TableRoom(const QTableWidget& table, int most_height) {
+  int width = 2 * table.frameWidth() + table.verticalScrollBar()->sizeHint().width();
+  for (int c = 0; c < table.columnCount(); ++c) width += table.columnWidth(c);
+  int height = 2 * table.frameWidth() + table.horizontalHeader()->sizeHint().height();
+  for (int r = 0; r < table.rowCount(); ++r) height += table.rowHeight(r);
+  return {width, std::min(height, most_height)};
+}
+
+}  // namespace
+
+QDialog* MakeReportWindow(QWidget* parent, const Report& report) {
+  auto* window = new QDialog(parent);
+  window->setObjectName(u"ReportWindow"_s);
+  window->setWindowTitle(report.title);
+  window->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  auto* column = new QVBoxLayout(window);
+
+  const QScreen* screen = parent != nullptr && parent->screen() != nullptr
+                              ? parent->screen()
+                              : QGuiApplication::primaryScreen();
+  const QRect room = screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+
+  QTableWidget* table = Table(window, report);
+  const QSize needed = TableRoom(*table, room.height() / 2);
+  table->setMinimumSize(std::min(needed.width(), room.width() - 60), needed.height());
+  column->addWidget(table, 1);
+
+  if (!report.notes.isEmpty()) {
+    auto* notes = new QPlainTextEdit(window);
+    notes->setObjectName(u"ReportNotes"_s);
+    notes->setReadOnly(true);
+    notes->setLineWrapMode(QPlainTextEdit::NoWrap);
+    notes->setPlainText(report.notes.join(u'\n'));
+    const int line = notes->fontMetrics().lineSpacing();
+    notes->setFixedHeight(line * (std::min<int>(report.notes.size(), kNoteLines) + 1) +
+                          2 * notes->frameWidth());
+    // As wide as the longest note, so that each reads without scrolling.
+    int widest = 0;
+    for (const QString& note : report.notes) {
+      widest = std::max(widest, notes->fontMetrics().horizontalAdvance(note));
+    }
+    const int margins = 2 * notes->frameWidth() +
+                        2 * static_cast<int>(notes->document()->documentMargin()) +
+                        notes->verticalScrollBar()->sizeHint().width();
+    notes->setMinimumWidth(std::min(widest + margins, room.width() - 60));
+    column->addWidget(notes);
+  }
+
+  auto* verdict = new QLabel(report.verdict, window);
+  verdict->setObjectName(u"ReportVerdict"_s);
+  QFont bold = verdict->font();
+  bold.setBold(true);
+  verdict->setFont(bold);
+  if (!report.AllHold()) {
+    QPalette palette = verdict->palette();
+    palette.setColor(QPalette::WindowText, kFault);
+    verdict->setPalette(palette);
+  }
+  column->addWidget(verdict);
+
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  auto* close = new QPushButton(kClose, window);
+  close->setObjectName(u"CloseCmd"_s);
+  close->setDefault(true);
+  QObject::connect(close, &QPushButton::clicked, window, &QDialog::accept);
+  buttons->addWidget(close);
+  column->addLayout(buttons);
+  window->adjustSize();
+  return window;
+}
+
+void ShowReportWindow(QWidget* parent, const Report& report) {
+  const std::unique_ptr<QDialog> window(MakeReportWindow(parent, report));
+  window->exec();
+}
+
+}  // namespace veroxia

@@ -1,0 +1,30 @@
+#pragma once
+// A report the user reads in its own window before filing: a table whose
+// rows each hold or not, notes under it and a closing verdict. The same
+// report is told as text on the command line.
+
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace veroxia {
+
+struct ReportRow {
+  QStringList cells;  // one per column
+  bool holds = true;  // false: shown marked, as a fault
+};
+
+struct Report {
+  QString title;        // of the window
+  QStringList columns;  // the table's headings
+  std::vector<ReportRow> rows;
+  QStringList notes;  // findings that are not rows of the table
+  QString verdict;    // one closing sentence
+  bool AllHold() const;
+};
+
+// The report as lines of text: the headings and each row with the columns
+// parted by tabs, then the notes and the verdict.
+QStringList ReportText(const Report& report);
+
+}  // namespace veroxia
