@@ -27,32 +27,61 @@ constexpr qsizetype kLongest = 4096;  // of a record kept whole: no layout comes
 constexpr qsizetype kOwnColumn = 3;   // the volume's own number and name start after "1" and
                                       // the number of volumes
 
-// The bytes Windows-1253 leaves undefined. The system's converter decodes
-// most of them as control characters, so it cannot be the judge.
-constexpr std::array<bool, 256> ForeignBytes() {
-  std::array<bool, 256> foreign{};
+// What a byte of a record can be: of the code page, one it leaves undefined
+// (the system's converter decodes most of these as control characters, so
+// it cannot be the judge), or a CR, which only ends a record.
+enum ByteClass : unsigned char { kPlain, kForeign, kCr };
+
+constexpr std::array<ByteClass, 256> ByteClasses() {
+  std::array<ByteClass, 256> classes{};
   for (const int byte : {0x81, 0x88, 0x8A, 0x8C, 0x8D, 0x8E, 0x8F, 0x90, 0x98, 0x9A, 0x9C, 0x9D,
                          0x9E, 0x9F, 0xAA, 0xD2, 0xFF}) {
-    foreign[byte] = true;
+    classes[byte] = kForeign;
   }
-  return foreign;
+  classes['\r'] = kCr;
+  return classes;
 }
-constexpr std::array<bool, 256> kForeign = ForeignBytes();
+constexpr std::array<ByteClass, 256> kClasses = ByteClasses();
 
-// The place of the first foreign byte; -1 when there is none. Bytes below
-// 0x80 are all defined and are passed over eight at a time.
-qsizetype FirstForeign(QByteArrayView bytes) {
+// The place of the first foreign byte of the record (-1: none), and whether
+// it holds a CR. Eight bytes at a time: only a word with a byte from 0x80 on
+// or a CR is looked at byte by byte.
+struct Scan {
+  qsizetype foreign = -1;
+  bool cr = false;
+};
+Scan ScanBytes(QByteArrayView bytes) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101ULL;
+  constexpr std::uint64_t kHigh = 0x8080808080808080ULL;
   const auto* data = reinterpret_cast<const unsigned char*>(bytes.data());
+  const qsizetype size = bytes.size();
+  Scan scan;
+  const auto look = [&](qsizetype from, qsizetype to) {
+    for (qsizetype i = from; i < to; ++i) {
+      const ByteClass c = kClasses[data[i]];
+      if (c == kForeign && scan.foreign < 0) scan.foreign = i;
+      if (c == kCr) scan.cr = true;
+    }
+  };
+  // A byte from 0x80 on, or where a zero byte is after the CRs are made
+  // zeros (the borrow may mark a byte above a true one, which is only
+  // looked at then).
+  const auto marked = [](std::uint64_t word) {
+    const std::uint64_t cr = word ^ (kOnes * '\r');
+    return (word | ((cr - kOnes) & ~cr)) & kHigh;
+  };
   qsizetype i = 0;
-  for (; i + 8 <= bytes.size(); i += 8) {
+  for (; i + 8 <= size; i += 8) {
     std::uint64_t word;
     std::memcpy(&word, data + i, 8);
-    if (word & 0x8080808080808080ULL) break;
+    if (marked(word)) {
+      unsigned char any = 0;  // most marked words are plain Greek: no branch for each byte
+      for (int k = 0; k < 8; ++k) any |= kClasses[data[i + k]];
+      if (any != 0) look(i, i + 8);
+    }
   }
-  for (; i < bytes.size(); ++i) {
-    if (kForeign[data[i]]) return i;
-  }
-  return -1;
+  look(i, size);
+  return scan;
 }
 
 VolumeFinding Finding(int volume, int record, VolumeFault fault, qint64 found = 0,
@@ -237,9 +266,12 @@ void Checker::Record(QByteArrayView bytes, qint64 length, bool ended) {
   } else {
     Fault(VolumeFault::kBareLf);
   }
-  if (content.contains('\r')) Fault(VolumeFault::kBareCr);
-  if (const qsizetype at = FirstForeign(content); at >= 0) {
-    Fault(VolumeFault::kForeignByte, static_cast<unsigned char>(content[at]), at + 1);
+  if (const Scan scan = ScanBytes(content); scan.foreign >= 0 || scan.cr) {
+    if (scan.cr) Fault(VolumeFault::kBareCr);
+    if (scan.foreign >= 0) {
+      Fault(VolumeFault::kForeignByte, static_cast<unsigned char>(content[scan.foreign]),
+            scan.foreign + 1);
+    }
   }
   if (content == "EOF") {
     if (type_ == '2') Add(Finding(summary_->number, person_at_, VolumeFault::kPersonWithoutLines));
@@ -272,9 +304,12 @@ void Checker::Record(QByteArrayView bytes, qint64 length, bool ended) {
       ++records_2_;
       // A person whose lines go on from the volume before is named again
       // at the top of this one: counted once.
-      const QByteArray id = Part(content, id_field_.start - 1, id_field_.width).toByteArray();
-      if (record_ != 2 || last_person_.isEmpty() || id != last_person_) ++summary_->persons;
-      last_person_ = id;
+      const QByteArrayView id = Part(content, id_field_.start - 1, id_field_.width);
+      if (record_ != 2 || last_person_.isEmpty() || id != QByteArrayView(last_person_)) {
+        ++summary_->persons;
+      }
+      last_person_.resize(id.size());  // kept in place from one person to the next
+      std::memcpy(last_person_.data(), id.data(), static_cast<size_t>(id.size()));
       break;
     }
     case '3':

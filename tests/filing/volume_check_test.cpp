@@ -144,6 +144,8 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
                 b[line3 + 11 * 140 + 20] = '\xFF';
               }),
        2, kForeignByte, 14, 1},
+      {"CrInARecord", change("02", [&](QByteArray& b) { b[line3 + 5 * 140 + 30] = '\r'; }), 2,
+       kBareCr, 8, 1},
       {"MissingInTheMiddle", [](const QString& p) { QFile::remove(p + u"02"_s); }, 2, kMissing, 0,
        2},
       {"ExtraAfterTheLast",
