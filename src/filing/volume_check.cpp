@@ -298,8 +298,9 @@ void Checker::Record(QByteArrayView bytes, qint64 length, bool ended) {
       break;
     case '2': {
       wanted = layout_.person_bytes;
-      if (type_ == '2')
+      if (type_ == '2') {
         Add(Finding(summary_->number, person_at_, VolumeFault::kPersonWithoutLines));
+      }
       person_at_ = record_;
       ++records_2_;
       // A person whose lines go on from the volume before is named again
@@ -455,10 +456,13 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
   check.kind = kind;
   const VolumeLayout& layout = VolumeLayoutOf(kind);
   Checker checker(layout, check);
-  for (const QString& name : misnamed)
+  for (const QString& name : misnamed) {
     checker.Add(Finding(0, 0, VolumeFault::kBadName, 0, 0, name));
+  }
+  const std::map<int, QString>& volumes = found[seen[0] ? 0 : 1];
+  check.volumes.reserve(volumes.size());  // the checker holds on to the one it reads
   int next = 1;
-  for (const auto& [number, name] : found[seen[0] ? 0 : 1]) {
+  for (const auto& [number, name] : volumes) {
     if (number > next) checker.Add(Finding(next, 0, VolumeFault::kMissing, number - 1));
     next = number + 1;
     VolumeSummary& summary = check.volumes.emplace_back();
