@@ -45,7 +45,7 @@ int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(co
     id = args[3].toInt(&number);
     if (!number || id < 1 || id > 32767) return usage(u"the id is a number from 1 to 32767"_s);
   }
-  if (!QDir(directory).exists()) {
+  if (directory.isEmpty() || !QDir(directory).exists()) {
     Print(stderr, u"veroxia-cli: no such directory: "_s + directory);
     return kError;
   }
