@@ -96,7 +96,11 @@ struct VolumeCheck {
 inline constexpr int kKeptFindings = 20;
 
 // Reads and checks the volumes of either kind in the directory; compares
-// them with the expected counts when given.
+// them with the expected counts when given. As the writer writes them, every
+// volume ends with "EOF", and a volume is followed by another only when its
+// next line might not have fitted: the first whole volume with room left ends
+// the file, and any volume after it is extra. The headers are compared with
+// the first volume's.
 VolumeCheck VerifyVolumes(const QString& directory,
                           std::optional<VolumeCounts> expected = std::nullopt);
 
