@@ -10,6 +10,7 @@
 #include <cstring>
 #include <memory>
 
+#include "cli/verify_command.h"
 #include "filing/create_file.h"
 #include "filing/totals.h"
 #include "gui/paper/pdf_printer.h"
@@ -48,6 +49,12 @@ const char* const kHelp =
     "                                    the whole declaration: as a PDF file,\n"
     "                                    or as text on standard output with a\n"
     "                                    form feed between pages\n"
+    "  verify DIRECTORY [--against common|construction ID]\n"
+    "                                    reads the volumes in DIRECTORY back\n"
+    "                                    and checks every record, against the\n"
+    "                                    stored declaration's counts with\n"
+    "                                    --against; exit status 0 when all\n"
+    "                                    holds, 1 when not, 2 on an error\n"
     "\n"
     "Options:\n"
     "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
@@ -171,6 +178,7 @@ int main(int argc, char** argv) {
     args.remove(at, 2);
   }
   const QString command = args.value(0);
+  if (command == u"verify") return VerifyCommand(args.mid(1), store, Usage);
   Kind kind = Kind::Common;
   Printout printout = Printout::kSummary;
   QString id_text;

@@ -62,6 +62,14 @@ Rows LinesInOrder(Database& db, Kind kind, int id) {
   return Rows(statement);
 }
 
+Rows InsuredIdsInOrder(Database& db, Kind kind, int id) {
+  const KindTables tables = TablesOf(kind);
+  Statement& statement = db.Prepare(
+      Sql("SELECT insured_id FROM %1 WHERE id = ? ORDER BY %2", tables.lines, tables.order));
+  statement.Bind(1, id);
+  return Rows(statement);
+}
+
 std::vector<DeclarationSummary> ListDeclarations(Database& db, Kind kind) {
   const KindTables tables = TablesOf(kind);
   const char* columns = kind == Kind::Common

@@ -48,6 +48,8 @@ class Rows {
 };
 Rows HeaderRow(Database& db, Kind kind, int id);
 Rows LinesInOrder(Database& db, Kind kind, int id);
+// The register numbers of a declaration's lines alone, in the same order.
+Rows InsuredIdsInOrder(Database& db, Kind kind, int id);
 
 // What a list of the stored declarations shows of each.
 struct DeclarationSummary {

@@ -8,6 +8,7 @@
 
 #include "filing/texts.h"
 #include "filing/totals.h"
+#include "filing/volume_check.h"
 #include "printing/texts.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
@@ -38,6 +39,9 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   store.vars.StoreConnection.reset();
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   ASSERT_TRUE(QDir().mkdir(out));
+  const QString broken = store.Dir() + u"/broken"_s;  // a volume of one record cut short
+  ASSERT_TRUE(QDir().mkdir(broken));
+  if (QFile cut(broken + u"/CSL01"_s); cut.open(QIODevice::WriteOnly)) cut.write("1");
   const QString usage = u"veroxia-cli: "_s;
   const QString page1 = u"\n\n\n\n"_s, of = printing_texts::kOf;
   const struct {
@@ -54,6 +58,14 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
       {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, path + u"x"_s, u"verify"_s, out}, 0, u"ΤΟΜΟΣ\t"_s, {}},
+      {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"common"_s, u"3"_s}, 0, u"ΤΟΜΟΣ\t"_s, {}},
+      {{u"--store"_s, path, u"verify"_s, broken}, 1, u"ΤΟΜΟΣ\t"_s, kVolumesBroken + u'\n'},
+      {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"construction"_s, u"4"_s}, 1, u"ΤΟΜΟΣ\t"_s, kVolumesBroken + u'\n'},
+      {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"common"_s, u"1"_s}, 2, {}, usage + u"no declaration 1 of that kind\n"_s},
+      {{u"--store"_s, path + u"x"_s, u"verify"_s, out, u"--against"_s, u"common"_s, u"3"_s}, 2, {}, texts::kStoreCritical},
+      {{u"verify"_s, out + u"/none"_s}, 2, {}, usage + u"no such directory: "_s + out + u"/none\n"_s},
+      {{u"verify"_s, out, u"--against"_s, u"common"_s}, 2, {}, usage + u"verify needs a directory, and --against with a kind and an id\n"_s},
       {{u"--store"_s, path, u"check"_s, u"construction"_s, u"4"_s}, 1, u"ΣΤΟΙΧΕΙΟ\t"_s, kTotalsDisagree + u'\n'},
       {{u"--store"_s, path, u"check"_s, u"common"_s, u"3"_s}, 0, u"ΣΤΟΙΧΕΙΟ\t"_s, {}},
       {{u"--store"_s, path, u"check"_s, u"common"_s, u"1"_s}, 2, {}, usage + u"no declaration 1 of that kind\n"_s},

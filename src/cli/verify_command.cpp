@@ -1,0 +1,74 @@
+#include "cli/verify_command.h"
+
+#include <QDir>
+#include <cstdio>
+
+#include "filing/volume_check.h"
+#include "shell/errors.h"
+#include "shell/texts.h"
+#include "store/schema.h"
+#include "store/store_file.h"
+
+namespace veroxia {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kNotHolding = 1;
+constexpr int kError = 2;
+
+void Print(FILE* to, const QString& text) {
+  QString lines = text;
+  lines.replace(u"\r\n"_s, u"\n"_s);
+  std::fputs(lines.toUtf8().constData(), to);
+  std::fputc('\n', to);
+}
+
+}  // namespace
+
+int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(const QString& why)) {
+  const bool against = args.size() == 4 && args[1] == u"--against";
+  if (args.size() != 1 && !against) {
+    return usage(u"verify needs a directory, and --against with a kind and an id"_s);
+  }
+  const QString& directory = args[0];
+  Kind kind = Kind::Common;
+  int id = 0;
+  if (against) {
+    if (args[2] == u"construction") {
+      kind = Kind::Construction;
+    } else if (args[2] != u"common") {
+      return usage(u"the kind is common or construction"_s);
+    }
+    bool number = false;
+    id = args[3].toInt(&number);
+    if (!number || id < 1 || id > 32767) return usage(u"the id is a number from 1 to 32767"_s);
+  }
+  if (directory.isEmpty() || !QDir(directory).exists()) {
+    Print(stderr, u"veroxia-cli: no such directory: "_s + directory);
+    return kError;
+  }
+  std::optional<VolumeCounts> expected;
+  if (against) {
+    try {
+      const auto db = Database::Open(store, StorePassword());
+      CheckSchema(*db);
+      expected = ExpectedCounts(*db, kind, id);
+    } catch (const StoreError& error) {
+      Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+      return kError;
+    }
+    if (!expected) {
+      Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
+      return kError;
+    }
+  }
+  const VolumeCheck check = VerifyVolumes(directory, expected);
+  for (const QString& line : VolumeCheckText(check)) Print(stdout, line);
+  if (check.AllHold()) return 0;
+  Print(stderr, kVolumesBroken);
+  return kNotHolding;
+}
+
+}  // namespace veroxia

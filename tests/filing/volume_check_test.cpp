@@ -1,0 +1,229 @@
+#include "filing/volume_check.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <functional>
+
+#include "filing/volume_files.h"
+#include "filing/volume_writer.h"
+#include "support/fakes.h"
+#include "support/store_rows.h"
+
+namespace veroxia {
+namespace {
+
+using namespace Qt::StringLiterals;
+using enum VolumeFault;
+
+QByteArray Read(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void Write(const QString& path, const QByteArray& bytes) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+  file.write(bytes);
+}
+
+// Declaration 1 of the kind with a header of a Greek name and `lines` lines
+// (one person from line `shared` on), written by the program into `dir`.
+int WriteDeclaration(Database& db, Kind kind, int lines, int shared, const QString& dir) {
+  db.Exec(kind == Kind::Common ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, employer_name) "
+                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ')"
+                               : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, emp_name) "
+                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ')");
+  if (lines > 0) testing::AddLines(db, kind, 1, lines, shared);
+  VolumeFiles files(dir);
+  return VolumeWriter(db, kind, 1).Write(files);
+}
+
+// Volumes written by the program hold, of both kinds, one volume or several
+// with a person going on across the break, and their counts are the store's.
+TEST(VolumeCheck, VolumesAsWrittenHold) {
+  const struct {
+    Kind kind;
+    int lines, shared, volumes, persons;
+  } cases[] = {
+      {Kind::Common, 0, 0, 1, 0},
+      {Kind::Common, 3, 2, 1, 2},
+      {Kind::Common, 15'000, 4'000, 3, 4'000},
+      {Kind::Construction, 14'753, 40, 2, 40},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.lines);
+    testing::TempStore store;
+    Database& db = store.Open();
+    const QString dir = store.Dir() + u"/out"_s;
+    ASSERT_TRUE(QDir().mkdir(dir));
+    ASSERT_EQ(WriteDeclaration(db, c.kind, c.lines, c.shared, dir), c.volumes);
+    const std::optional<VolumeCounts> expected = ExpectedCounts(db, c.kind, 1);
+    ASSERT_TRUE(expected);
+    EXPECT_EQ(expected->lines, c.lines);
+    EXPECT_EQ(expected->persons, c.persons);
+    const VolumeCheck check = VerifyVolumes(dir, expected);
+    EXPECT_TRUE(check.AllHold()) << VolumeCheckText(check).join(u'\n').toStdString();
+    EXPECT_EQ(check.kind, c.kind);
+    EXPECT_EQ(check.volumes.size(), static_cast<size_t>(c.volumes));
+    EXPECT_EQ(check.lines, c.lines);
+    EXPECT_EQ(check.persons, c.persons);
+    // A heading, a line per volume, the totals and the declaration's counts.
+    const QStringList text = VolumeCheckText(check);
+    EXPECT_EQ(text.size(), c.volumes + 3);
+    EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
+  }
+}
+
+// The writer's groups as the store holds them: blanks after an id and an
+// empty id open a group at every line.
+TEST(VolumeCheck, ExpectedPersonsAreTheWritersGroups) {
+  testing::TempStore store;
+  Database& db = store.Open();
+  db.Exec(
+      "INSERT INTO QOR_EMPLOYERS (id) VALUES (1);"
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '111'), (1, 2, '111'), "
+      "(1, 3, '222'), (1, 4, '333 '), (1, 5, '333 '), (1, 6, '444'), (1, 7, ''), (1, 8, '444')");
+  const std::optional<VolumeCounts> counts = ExpectedCounts(db, Kind::Common, 1);
+  ASSERT_TRUE(counts);
+  EXPECT_EQ(counts->persons, 6);
+  EXPECT_EQ(counts->lines, 8);
+  EXPECT_FALSE(ExpectedCounts(db, Kind::Common, 2));
+  EXPECT_FALSE(ExpectedCounts(db, Kind::Construction, 1));
+}
+
+// Every byte from 0x80 on, one at a time in a header: those Windows-1253
+// leaves undefined are found, the rest pass.
+TEST(VolumeCheck, ForeignBytesAreThoseTheCodePageLeavesUndefined) {
+  testing::TempStore store;
+  ASSERT_EQ(WriteDeclaration(store.Open(), Kind::Common, 0, 0, store.Dir()), 1);
+  const QString volume = store.Dir() + u"/CSL01"_s;
+  const QByteArray written = Read(volume);
+  const QByteArray undefined(
+      "\x81\x88\x8A\x8C\x8D\x8E\x8F\x90\x98\x9A\x9C\x9D\x9E\x9F\xAA\xD2\xFF");
+  for (int byte = 0x80; byte <= 0xFF; ++byte) {
+    QByteArray bytes = written;
+    bytes[100 + byte % 16] = static_cast<char>(byte);  // at each place of a piece of sixteen
+    Write(volume, bytes);
+    const VolumeCheck check = VerifyVolumes(store.Dir());
+    EXPECT_EQ(check.AllHold(), !undefined.contains(static_cast<char>(byte))) << byte;
+    EXPECT_EQ(check.findings.size(), check.AllHold() ? 0u : 1u) << byte;
+  }
+}
+
+// Copies of three written volumes, each broken in one way, and where the
+// finding must be.
+class BrokenVolumes : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(QDir().mkdir(written()));
+    ASSERT_EQ(WriteDeclaration(store_.Open(), Kind::Common, 15'000, 4'000, written()), 3);
+  }
+  QString written() const { return store_.Dir() + u"/written"_s; }
+  // A fresh copy of the volumes, changed.
+  QString Copy(const QString& name, const std::function<void(const QString&)>& change) {
+    const QString dir = store_.Dir() + u'/' + name;
+    EXPECT_TRUE(QDir().mkdir(dir));
+    for (const QString& volume : QDir(written()).entryList(QDir::Files)) {
+      EXPECT_TRUE(QFile::copy(written() + u'/' + volume, dir + u'/' + volume));
+    }
+    change(dir + u"/CSL"_s);
+    return dir;
+  }
+  testing::TempStore store_;
+};
+
+TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
+  using Edit = std::function<void(const QString&)>;
+  const auto change = [](const char* volume, const std::function<void(QByteArray&)>& edit) {
+    return Edit([=](const QString& prefix) {
+      QByteArray bytes = Read(prefix + QLatin1StringView(volume));
+      edit(bytes);
+      Write(prefix + QLatin1StringView(volume), bytes);
+    });
+  };
+  const qsizetype line3 = 416 + 180;  // the first record "3" of volumes 2 and 3
+  const struct {
+    const char* name;
+    Edit edit;
+    int volume;  // where the finding is (0: the set as a whole)
+    VolumeFault fault;
+    int record;    // where in it; -1: anywhere
+    int findings;  // all kept
+  } cases[] = {
+      {"Truncated", change("03", [](QByteArray& b) { b.chop(70); }), 3, kCut, -1, 2},
+      {"LfLineEnds", change("02", [](QByteArray& b) { b.replace("\r\n", "\n"); }), 2, kBareLf, 1,
+       kKeptFindings},
+      // 0xAE is the registered sign; 0xFF is left undefined.
+      {"ForeignByte",
+       change("02",
+              [&](QByteArray& b) {
+                b[line3 + 10 * 140 + 20] = '\xAE';
+                b[line3 + 11 * 140 + 20] = '\xFF';
+              }),
+       2, kForeignByte, 14, 1},
+      {"CrInARecord", change("02", [&](QByteArray& b) { b[line3 + 5 * 140 + 30] = '\r'; }), 2,
+       kBareCr, 8, 1},
+      {"MissingInTheMiddle", [](const QString& p) { QFile::remove(p + u"02"_s); }, 2, kMissing, 0,
+       2},
+      {"ExtraAfterTheLast",
+       [](const QString& p) {
+         QByteArray bytes = Read(p + u"03"_s);
+         bytes.replace(3, 7, "04CSL04");
+         Write(p + u"04"_s, bytes);
+       },
+       4, kExtra, 0, 1},
+      {"HeaderChanged", change("02", [](QByteArray& b) { b[99] = 'X'; }), 2, kHeaderDiffers, 1, 1},
+      {"LineWithoutPerson", change("03", [&](QByteArray& b) { b.remove(416, 180); }), 3,
+       kLineWithoutPerson, 2, 1},
+      {"NoEof", change("03", [](QByteArray& b) { b.chop(5); }), 3, kNoEof, 0, 1},
+      {"BothKinds", [](const QString& p) { Write(p.chopped(3) + u"CSC01"_s, "1"); }, 0, kBothKinds,
+       0, 1},
+      {"Misnamed", [](const QString& p) { Write(p + u"1"_s, "1"); }, 0, kBadName, 0, 1},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const VolumeCheck check = VerifyVolumes(Copy(QLatin1StringView(c.name), c.edit));
+    const QString text = VolumeCheckText(check).join(u'\n');
+    EXPECT_FALSE(check.AllHold());
+    EXPECT_EQ(check.findings.size(), static_cast<size_t>(c.findings)) << text.toStdString();
+    EXPECT_TRUE(std::any_of(check.findings.begin(), check.findings.end(), [&](const auto& f) {
+      return f.volume == c.volume && f.fault == c.fault && (c.record < 0 || f.record == c.record);
+    })) << text.toStdString();
+    for (const VolumeFinding& f : check.findings) {
+      EXPECT_TRUE(f.volume == c.volume || f.volume == 0) << text.toStdString();
+    }
+    // A finding of a volume is told with its name and record; of each volume
+    // the first kKeptFindings only.
+    if (c.volume > 0 && c.record > 0) {
+      EXPECT_TRUE(text.contains(u"Τόμος CSL0%1, εγγραφή %2: "_s.arg(c.volume).arg(c.record)));
+    }
+    for (const VolumeSummary& volume : check.volumes) {
+      EXPECT_EQ(std::count_if(check.findings.begin(), check.findings.end(),
+                              [&](const auto& f) { return f.volume == volume.number; }),
+                std::min(volume.faults, kKeptFindings));
+    }
+  }
+}
+
+TEST_F(BrokenVolumes, CountsAgainstTheStore) {
+  Database& db = store_.Open();
+  db.Exec("INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 15001, '1')");
+  const VolumeCheck check = VerifyVolumes(written(), ExpectedCounts(db, Kind::Common, 1));
+  ASSERT_EQ(check.findings.size(), 2u);
+  EXPECT_EQ(check.findings[0].fault, kLineCount);
+  EXPECT_EQ(check.findings[0].found, 15'000);
+  EXPECT_EQ(check.findings[0].wanted, 15'001);
+  EXPECT_EQ(check.findings[1].fault, kPersonCount);
+  EXPECT_EQ(check.findings[1].wanted, 4'001);
+  EXPECT_EQ(VerifyVolumes(written(), VolumeCounts{Kind::Construction, 4'000, 15'000})
+                .findings.at(0)
+                .fault,
+            kOtherKind);
+  EXPECT_EQ(VerifyVolumes(store_.Dir() + u"/none"_s).findings.at(0).fault, kNoDirectory);
+  EXPECT_EQ(VerifyVolumes(store_.Dir()).findings.at(0).fault, kNoVolumes);
+}
+
+}  // namespace
+}  // namespace veroxia
