@@ -65,7 +65,7 @@ int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(co
     }
   }
   const VolumeCheck check = VerifyVolumes(directory, expected);
-  for (const QString& line : VolumeCheckText(check)) Print(stdout, line);
+  for (const QString& line : ReportText(VolumeCheckWindow(check))) Print(stdout, line);
   if (check.AllHold()) return 0;
   Print(stderr, kVolumesBroken);
   return kNotHolding;

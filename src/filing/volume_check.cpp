@@ -11,6 +11,8 @@
 #include "filing/texts.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
+#include "shell/errors.h"
+#include "shell/texts.h"
 #include "store/declarations.h"
 
 namespace veroxia {
@@ -491,7 +493,8 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
 namespace {
 
 // Our own texts.
-const QString kHeading = u"ΤΟΜΟΣ\tBYTES\tΑΣΦΑΛΙΣΜΕΝΟΙ\tΓΡΑΜΜΕΣ\tΕΛΕΓΧΟΣ"_s;
+const QStringList kColumns{u"ΤΟΜΟΣ"_s, u"ΜΕΓΕΘΟΣ"_s, u"ΑΣΦΑΛΙΣΜΕΝΟΙ"_s, u"ΓΡΑΜΜΕΣ"_s, u"ΕΛΕΓΧΟΣ"_s};
+const QString kVolumesWhole = u"Οι τόμοι του αρχείου Ξ.Ρ.Φ. είναι σωστοί."_s;
 const QString kTotal = u"ΣΥΝΟΛΟ ΤΟΜΩΝ %1"_s;
 const QString kDeclaration = u"ΔΗΛΩΣΗ"_s;
 const QString kRight = u"ΣΩΣΤΟ"_s;
@@ -607,46 +610,72 @@ QString FindingText(const VolumeFinding& f, const VolumeLayout& layout) {
   return (f.record > 0 ? kVolumeRecord.arg(name).arg(f.record) : kVolume.arg(name)) + what;
 }
 
-QString Row(const QString& label, const QString& bytes, int persons, int lines, bool right,
-            int faults = 0) {
-  return QStringList{
-      label, bytes, QString::number(persons), QString::number(lines),
-      right ? kRight : kWrong + (faults > 0 ? u": "_s + QString::number(faults) : QString())}
-      .join(u'\t');
+ReportRow Row(const QString& label, const QString& bytes, int persons, int lines, bool right,
+              int faults = 0) {
+  return {{label, bytes, QString::number(persons), QString::number(lines),
+           right ? kRight : kWrong + (faults > 0 ? u": "_s + QString::number(faults) : QString())},
+          right};
 }
 
 }  // namespace
 
-QStringList VolumeCheckText(const VolumeCheck& check) {
+Report VolumeCheckWindow(const VolumeCheck& check) {
   const VolumeLayout& layout = VolumeLayoutOf(check.kind.value_or(Kind::Common));
-  QStringList text{kHeading};
+  Report report;
+  report.title = kVolumesTitle;
+  report.columns = kColumns;
   qint64 bytes = 0;
   for (const VolumeSummary& volume : check.volumes) {
     bytes += volume.bytes;
-    text << Row(volume.name, QString::number(volume.bytes), volume.persons, volume.lines,
-                volume.faults == 0, volume.faults);
+    report.rows.push_back(Row(volume.name, QString::number(volume.bytes), volume.persons,
+                              volume.lines, volume.faults == 0, volume.faults));
     for (const VolumeFinding& f : check.findings) {
       if (f.volume == volume.number && f.fault != VolumeFault::kMissing) {
-        text << FindingText(f, layout);
+        report.notes << FindingText(f, layout);
       }
     }
     if (volume.faults > kKeptFindings) {
-      text << kMore.arg(volume.name).arg(volume.faults - kKeptFindings);
+      report.notes << kMore.arg(volume.name).arg(volume.faults - kKeptFindings);
     }
   }
-  text << Row(kTotal.arg(check.volumes.size()), QString::number(bytes), check.persons, check.lines,
-              check.AllHold());
+  report.rows.push_back(Row(kTotal.arg(check.volumes.size()), QString::number(bytes), check.persons,
+                            check.lines, check.AllHold()));
   if (check.expected && check.kind == check.expected->kind) {
-    text << Row(kDeclaration, QString(), check.expected->persons, check.expected->lines,
-                check.expected->persons == check.persons && check.expected->lines == check.lines);
+    report.rows.push_back(
+        Row(kDeclaration, QString(), check.expected->persons, check.expected->lines,
+            check.expected->persons == check.persons && check.expected->lines == check.lines));
   }
   for (const VolumeFinding& f : check.findings) {
     const bool own = std::any_of(check.volumes.begin(), check.volumes.end(),
                                  [&](const VolumeSummary& v) { return v.number == f.volume; });
-    if (!own || f.fault == VolumeFault::kMissing) text << FindingText(f, layout);
+    if (!own || f.fault == VolumeFault::kMissing) report.notes << FindingText(f, layout);
   }
-  if (check.dropped > 0) text << kMoreOfTheSet.arg(check.dropped);
-  return text;
+  if (check.dropped > 0) report.notes << kMoreOfTheSet.arg(check.dropped);
+  report.verdict = check.AllHold() ? kVolumesWhole : kVolumesBroken;
+  return report;
+}
+
+void CheckVolumes(Vars& vars, Dialogs& dialogs, Kind kind) {
+  vars.DialogResult.clear();
+  vars.DialogResult = dialogs.AskDirectory();
+  if (vars.DialogResult.trimmed().isEmpty()) return;
+  std::optional<VolumeCheck> check;
+  std::optional<StoreError> failure;
+  {
+    BusyPointer busy(dialogs);
+    try {
+      const std::optional<VolumeCounts> expected =
+          ExpectedCounts(*vars.StoreConnection, kind, vars.DeclarationId);
+      check = VerifyVolumes(vars.DialogResult, expected);
+    } catch (const StoreError& error) {
+      failure = error;
+    }
+  }
+  if (failure) {
+    dialogs.Message(ErrorMessage(kVolumesNotChecked, *failure), texts::kAppTitle);
+  } else {
+    dialogs.ShowReport(VolumeCheckWindow(*check));
+  }
 }
 
 }  // namespace veroxia

@@ -12,6 +12,9 @@
 #include <optional>
 #include <vector>
 
+#include "shell/ports.h"
+#include "shell/report.h"
+#include "shell/vars.h"
 #include "store/database.h"
 #include "store/kind.h"
 
@@ -104,10 +107,22 @@ inline constexpr int kKeptFindings = 20;
 VolumeCheck VerifyVolumes(const QString& directory,
                           std::optional<VolumeCounts> expected = std::nullopt);
 
-// The report as lines of text, the columns parted by tabs: one line for each
-// volume followed by its findings, the line of the totals, then the findings
-// of the set as a whole.
-QStringList VolumeCheckText(const VolumeCheck& check);
+// The report as the user reads it: a row for each volume, the totals and the
+// declaration's counts; the findings of each volume, then those of the set
+// as a whole, as notes.
+Report VolumeCheckWindow(const VolumeCheck& check);
+
+// The window's title and the button's caption.
+inline const QString kVolumesTitle = QStringLiteral("Έλεγχος τόμων");
+// The first line of the message when the declaration's counts could not be
+// read.
+inline const QString kVolumesNotChecked =
+    QStringLiteral("ΠΡΟΣΟΧΗ!! Ο έλεγχος των τόμων δεν έγινε.");
+
+// "Έλεγχος τόμων": the volumes in a directory the user chooses, against the
+// declaration being worked on (vars.DeclarationId), in the report's window.
+// Nothing happens when no directory is chosen.
+void CheckVolumes(Vars& vars, Dialogs& dialogs, Kind kind);
 
 // What is said when the volumes do not hold.
 extern const QString kVolumesBroken;

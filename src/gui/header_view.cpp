@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
+#include <QPushButton>
 #include <QRadioButton>
 
 #include "gui/fields.h"
@@ -70,6 +71,7 @@ void HeaderView::Wire() {
   binder_->OnClick(u"PrintSumCmd"_s, [this] { form_.PrintSumCmd_Click(); });
   binder_->OnClick(u"CreateFile"_s, [this] { form_.CreateFile_Click(); });
   binder_->OnClick(u"TotalsCmd"_s, [this] { form_.TotalsCmd_Click(); });
+  binder_->OnClick(u"VolumesCmd"_s, [this] { form_.VolumesCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
   binder_->FocusFirst();
   // The options show the selected type after every event.
@@ -147,7 +149,9 @@ QWidget* HeaderView::BuildTop() {
   // The checks before filing sit beside the heading: the row of buttons
   // below is full.
   auto* checks = new QVBoxLayout;
-  checks->addWidget(binder_->Add<WrapButton>(u"TotalsCmd"_s, top));
+  checks->setSpacing(TwipsY(*this, 30));
+  checks->addWidget(binder_->Add<QPushButton>(u"TotalsCmd"_s, top));
+  checks->addWidget(binder_->Add<QPushButton>(u"VolumesCmd"_s, top));
   row->addLayout(checks);
   auto* img = binder_->Add<QLabel>(u"Img"_s, top);
   if (!form_.ImagePath().isEmpty()) {

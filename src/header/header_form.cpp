@@ -2,6 +2,7 @@
 
 #include "filing/create_file.h"
 #include "filing/totals.h"
+#include "filing/volume_check.h"
 #include "header/date_box.h"
 #include "header/texts.h"
 #include "printing/printout.h"
@@ -25,6 +26,7 @@ const QString kPrint = u"PrintCmd"_s;
 const QString kPrintSum = u"PrintSumCmd"_s;
 const QString kCreate = u"CreateFile"_s;
 const QString kTotals = u"TotalsCmd"_s;
+const QString kVolumes = u"VolumesCmd"_s;
 
 QString OptionName(int index) { return u"Option1_"_s + QString::number(index); }
 QString OptionCaptionName(int index) { return u"Option1Lbl_"_s + QString::number(index); }
@@ -54,21 +56,22 @@ HeaderForm::HeaderForm(Vars& vars, Dialogs& dialogs, Screens& screens, const Hea
   Declare(kPrintSum, header_texts::kPrintSumCmd).enabled = false;
   Declare(kCreate, header_texts::kCreateFile).enabled = false;
   Declare(kTotals, kTotalsTitle).enabled = false;
+  Declare(kVolumes, kVolumesTitle).enabled = false;
   Declare(kExit, layout_.exit_caption);
   Declare(kUpDate, header_texts::kUpDateCmd).visible = false;
   Declare(kCancel, header_texts::kCancelCmd).visible = false;
 }
 
 QStringList HeaderForm::ActionButtons() const {
-  return {kPrint, kPrintSum, kCreate, layout_.lines_button, kTotals};
+  return {kPrint, kPrintSum, kCreate, layout_.lines_button, kTotals, kVolumes};
 }
 
 QStringList HeaderForm::FocusOrder() const {
   QStringList order;
   for (const HeaderField& field : layout_.fields) order << field.name;
   for (int i = 0; i < static_cast<int>(layout_.types.size()); ++i) order << OptionName(i);
-  order << kSave << layout_.lines_button << kPrint << kPrintSum << kCreate << kTotals << kExit
-        << kUpDate << kCancel;
+  order << kSave << layout_.lines_button << kPrint << kPrintSum << kCreate << kTotals << kVolumes
+        << kExit << kUpDate << kCancel;
   return order;
 }
 
@@ -278,6 +281,8 @@ void HeaderForm::PrintSumCmd_Click() { PrintSummary(vars_, dialogs_, layout_.kin
 void HeaderForm::CreateFile_Click() { CreateFile(vars_, dialogs_, layout_.kind); }
 
 void HeaderForm::TotalsCmd_Click() { ShowTotals(vars_, dialogs_, layout_.kind); }
+
+void HeaderForm::VolumesCmd_Click() { CheckVolumes(vars_, dialogs_, layout_.kind); }
 
 bool HeaderForm::QueryClose() {
   if (closing_by_command_) return true;

@@ -54,8 +54,10 @@ class HeaderForm : public Form {
   void PrintCmd_Click();
   void PrintSumCmd_Click();
   void CreateFile_Click();
-  // The checks before filing: the totals against the lines.
+  // The checks before filing: the totals against the lines, and the volumes
+  // on the medium against the declaration.
   void TotalsCmd_Click();
+  void VolumesCmd_Click();
   // The kind's employee button: opens the employee screen of the kind; no
   // question on closing.
   void OpenLines();

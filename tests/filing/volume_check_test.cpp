@@ -64,14 +64,15 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     EXPECT_EQ(expected->lines, c.lines);
     EXPECT_EQ(expected->persons, c.persons);
     const VolumeCheck check = VerifyVolumes(dir, expected);
-    EXPECT_TRUE(check.AllHold()) << VolumeCheckText(check).join(u'\n').toStdString();
+    EXPECT_TRUE(check.AllHold()) << ReportText(VolumeCheckWindow(check)).join(u'\n').toStdString();
     EXPECT_EQ(check.kind, c.kind);
     EXPECT_EQ(check.volumes.size(), static_cast<size_t>(c.volumes));
     EXPECT_EQ(check.lines, c.lines);
     EXPECT_EQ(check.persons, c.persons);
-    // A heading, a line per volume, the totals and the declaration's counts.
-    const QStringList text = VolumeCheckText(check);
-    EXPECT_EQ(text.size(), c.volumes + 3);
+    // A heading, a line per volume, the totals, the declaration's counts and
+    // the verdict.
+    const QStringList text = ReportText(VolumeCheckWindow(check));
+    EXPECT_EQ(text.size(), c.volumes + 4);
     EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
   }
 }
@@ -185,7 +186,7 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     const VolumeCheck check = VerifyVolumes(Copy(QLatin1StringView(c.name), c.edit));
-    const QString text = VolumeCheckText(check).join(u'\n');
+    const QString text = ReportText(VolumeCheckWindow(check)).join(u'\n');
     EXPECT_FALSE(check.AllHold());
     EXPECT_EQ(check.findings.size(), static_cast<size_t>(c.findings)) << text.toStdString();
     EXPECT_TRUE(std::any_of(check.findings.begin(), check.findings.end(), [&](const auto& f) {

@@ -120,6 +120,8 @@ TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks
   ExpectNothingCut(*view);
   Click(*view, u"TotalsCmd"_s);  // the view state's checks open their report
   EXPECT_EQ(dialogs.reports.size(), 1u);
+  Click(*view, u"VolumesCmd"_s);  // cancelled in the directory dialog
+  EXPECT_EQ(dialogs.directories_asked, 1);
   // Every box shows all it may hold; one longer than the window 36 characters.
   for (QLineEdit* box : view->findChildren<QLineEdit*>()) {
     if (!box->isVisible() || !box->inputMask().isEmpty()) continue;

@@ -24,8 +24,8 @@ inline const QStringList kAlwaysLocked{u"Text11_1"_s, u"Text11_2"_s, u"Text12_1"
                                        u"Text13_1"_s, u"Text13_2"_s, u"Text13_3"_s};
 inline const QStringList kHidden{u"Text1"_s, u"KodDescr"_s};
 inline const QStringList kButtons{u"SaveCmd"_s, u"UpDateCmd"_s, u"ExitCmd"_s, u"CancelCmd"_s};
-inline const QStringList kActions{u"QorInsert"_s, u"PrintCmd"_s, u"PrintSumCmd"_s, u"CreateFile"_s,
-                                  u"TotalsCmd"_s};
+inline const QStringList kActions{u"QorInsert"_s,  u"PrintCmd"_s,  u"PrintSumCmd"_s,
+                                  u"CreateFile"_s, u"TotalsCmd"_s, u"VolumesCmd"_s};
 
 // A state as State() lists it: "fields" (all unlocked) or "locked", the
 // buttons shown, and the action buttons, a greyed one marked with "-".

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "filing/totals.h"
+#include "filing/volume_check.h"
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
 #include "shell/texts.h"
@@ -52,9 +53,16 @@ class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface
       {u"printsum"_s, [this] { form_->PrintSumCmd_Click(); }},
       {u"file"_s, [this] { form_->CreateFile_Click(); }},
       {u"totals"_s, [this] { form_->TotalsCmd_Click(); }},
+      {u"volumes"_s,
+       [this] {
+         dialogs_.directories.push_back(medium_.path());
+         form_->VolumesCmd_Click();
+       }},
+      {u"nomedium"_s, [this] { form_->VolumesCmd_Click(); }},
       {u"exit"_s, [this] { form_->ExitCmd_Click(); }},
       {u"employees"_s, [this] { form_->QorInsert_Click(); }},
   };
+  QTemporaryDir medium_;  // holds no volume
 };
 
 const QString kNoTable = u"no such table: QOR_EMPLOYERS"_s;
@@ -104,6 +112,15 @@ const StateCase kStateCases[] = {
      false,
      {texts::kAppTitle, kTotalsNotCompared + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s +
                             texts::kErrorDescription + kNoTable}},
+    // The volumes of a chosen directory in their window; none chosen, nothing.
+    {"Volumes", "row open volumes", kViewState, false},
+    {"NoMedium", "row open nomedium", kViewState, false},
+    {"VolumesUnreadable",
+     "row open volumes drop volumes",
+     kViewState,
+     false,
+     {texts::kAppTitle, kVolumesNotChecked + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s +
+                            texts::kErrorDescription + kNoTable}},
     // The buttons that leave show the next screen, without a question.
     {"Returned", "open exit", kNewState, true, {}, {u"start"_s}},
     {"ToTheEmployees", "row open employees", kViewState, false, {}, {u"lines common"_s}},
@@ -125,9 +142,18 @@ TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
   // agrees with; No stops it before the directory.
   EXPECT_EQ(dialogs_.questions.size(), size_t(steps.count(u"print"_s) + steps.count(u"file"_s)));
   EXPECT_EQ(dialogs_.printers.size(), size_t(steps.count(u"printsum"_s)));
-  EXPECT_EQ(dialogs_.directories_asked, 0);
-  // The report shows unless a message tells why it cannot.
-  EXPECT_EQ(dialogs_.reports.size(), size_t(steps.contains(u"totals"_s) && c.messages.isEmpty()));
+  EXPECT_EQ(dialogs_.directories_asked, steps.count(u"volumes"_s) + steps.count(u"nomedium"_s));
+  // A report shows for each check until the store's table is dropped.
+  size_t reports = 0;
+  for (const QString& step : steps) {
+    if (step == u"drop"_s) break;
+    reports += step == u"totals"_s || step == u"volumes"_s;
+  }
+  EXPECT_EQ(dialogs_.reports.size(), reports);
+  if (c.name == std::string("Volumes")) {
+    EXPECT_EQ(dialogs_.reports[0].title, kVolumesTitle);
+    EXPECT_FALSE(dialogs_.reports[0].AllHold());  // no volume there
+  }
   ExpectBusyBalanced();
 }
 
