@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <functional>
 #include <optional>
 
@@ -58,6 +59,21 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     int backups;  // backups in the folder afterwards (2 made beforehand when damaged)
   } cases[] = {
       {"Sound", [](const QString&, const QString&) {}, {}, true, true, 1},
+      {"LockLeftByACrash",
+       [](const QString&, const QString& path) {
+         QProcess gone;  // a process id that no process has any more
+         gone.start(u"true"_s, {});
+         ASSERT_TRUE(gone.waitForStarted());
+         const qint64 pid = gone.processId();
+         ASSERT_TRUE(gone.waitForFinished());
+         QFile lock(path + u".lock"_s);
+         ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+         lock.write(QByteArray::number(pid) + "\nveroxia\n\n");
+       },
+       {},
+       true,
+       true,
+       1},
       {"BackupFolderCannotBeMade",
        [&](const QString& dir, const QString&) {
          ASSERT_TRUE(QFile(dir + u'/' + backups).open(QIODevice::WriteOnly));
