@@ -42,6 +42,7 @@ void Prove(const QString& path, const QString& password) {
     try {
       CheckSchema(*db);
     } catch (const StoreError& error) {
+      if (error.code != SQLITE_ERROR) throw;  // not a table or column missing
       throw RestoreError{RestoreFault::kOtherSchema, error.description};
     }
     const QStringList findings = QuickCheck(*db);
