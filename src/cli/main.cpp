@@ -10,6 +10,7 @@
 #include <cstring>
 #include <memory>
 
+#include "cli/store_commands.h"
 #include "cli/verify_command.h"
 #include "filing/create_file.h"
 #include "filing/totals.h"
@@ -55,14 +56,21 @@ const char* const kHelp =
     "                                    stored declaration's counts with\n"
     "                                    --against; exit status 0 when all\n"
     "                                    holds, 1 when not, 2 on an error\n"
+    "  backup                            copies the store now into the folder\n"
+    "                                    backups/ beside it; prints the copy's path\n"
+    "  restore FILE                      puts FILE, a copy of the store, in the\n"
+    "                                    store's place once its password, tables\n"
+    "                                    and health are proven; the replaced store\n"
+    "                                    is kept in backups/; refused while the\n"
+    "                                    program holds the store\n"
     "\n"
     "Options:\n"
     "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
     "  --help         this text\n"
     "\n"
     "Exit status: 0 when done; 1 when the store, the file or the printout\n"
-    "failed, or the declaration has no submission date; 2 for a wrong command\n"
-    "line.\n";
+    "failed, the declaration has no submission date, or a restore was refused;\n"
+    "2 for a wrong command line.\n";
 
 void Print(FILE* to, const QString& text) {
   QString lines = text;
@@ -179,6 +187,10 @@ int main(int argc, char** argv) {
   }
   const QString command = args.value(0);
   if (command == u"verify") return VerifyCommand(args.mid(1), store, Usage);
+  if (cli::IsStoreCommand(command)) {
+    if (const QString wrong = cli::StoreCommandUsage(args); !wrong.isEmpty()) return Usage(wrong);
+    return cli::RunStoreCommand(store, args);
+  }
   Kind kind = Kind::Common;
   Printout printout = Printout::kSummary;
   QString id_text;

@@ -60,7 +60,7 @@ const QStringList& StartForm::FocusOrder() {
 bool StartForm::Load() {
   SetTitle(texts::kTitleStart + texts::kTitleVersion + QString::number(VEROXIA_VERSION_MAJOR) +
            u'.' + QString::number(VEROXIA_VERSION_MINOR) + u')');
-  if (!OpenStore(vars_, dialogs_)) {
+  if (!OpenStore(vars_, dialogs_, [&screens = screens_] { screens.Quit(1); })) {
     screens_.Quit(1);
     return false;
   }
@@ -155,9 +155,8 @@ bool StartForm::Report(const std::optional<FieldFault>& fault) {
 }
 
 bool StartForm::ValidatePeriod() {
-  return Report(CheckCommonPeriod(
-      {Text(QStringLiteral("Month1")), Text(QStringLiteral("Year1")),
-       Text(QStringLiteral("Month2")), Text(QStringLiteral("Year2"))}));
+  return Report(CheckCommonPeriod({Text(QStringLiteral("Month1")), Text(QStringLiteral("Year1")),
+                                   Text(QStringLiteral("Month2")), Text(QStringLiteral("Year2"))}));
 }
 
 bool StartForm::ValidateCon() {

@@ -6,12 +6,16 @@
 #include <cstdint>
 #include <memory>
 
+#include "shell/store_session.h"
 #include "store/database.h"
 
 namespace veroxia {
 
 struct Vars {
   QString AppDir;  // the program's own directory
+  // The program's hold on the open store (OpenStore); it outlives the
+  // connection, whose first change it backs up.
+  std::unique_ptr<StoreSession> Session;
   std::unique_ptr<Database> StoreConnection;
   bool StoreOpen = false;
 

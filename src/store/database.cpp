@@ -77,6 +77,12 @@ std::unique_ptr<Database> Database::Open(const QString& path, const QString& pas
   return db;
 }
 
+std::unique_ptr<Database> Database::OpenReadOnly(const QString& path, const QString& password) {
+  auto db = OpenWith(path, password, SQLITE_OPEN_READONLY);
+  db->Exec("SELECT count(*) FROM sqlite_master");
+  return db;
+}
+
 std::unique_ptr<Database> Database::Create(const QString& path, const QString& password) {
   if (QFileInfo::exists(path)) {
     throw StoreError{SQLITE_CANTOPEN, QStringLiteral("the file exists already: ") + path};
@@ -86,14 +92,15 @@ std::unique_ptr<Database> Database::Create(const QString& path, const QString& p
   return db;
 }
 
+// Statement by statement, so that each one that writes passes WillWrite.
 void Database::Exec(std::string_view sql) {
-  char* message = nullptr;
   const std::string text(sql);
-  const int rc = sqlite3_exec(db_, text.c_str(), nullptr, nullptr, &message);
-  if (rc != SQLITE_OK) {
-    StoreError error{rc, QString::fromUtf8(message != nullptr ? message : sqlite3_errstr(rc))};
-    sqlite3_free(message);
-    throw error;
+  const char* rest = text.c_str();
+  while (*rest != '\0') {
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(db_, rest, -1, &stmt, &rest) != SQLITE_OK) Fail();
+    if (stmt == nullptr) continue;  // blanks or a comment
+    Statement(*this, stmt).Run();
   }
 }
 
@@ -117,6 +124,42 @@ int Database::Changes() const { return sqlite3_changes(db_); }
 bool Database::InTransaction() const { return sqlite3_get_autocommit(db_) == 0; }
 
 void Database::Fail() const { throw ErrorOf(db_, sqlite3_errcode(db_)); }
+
+void Database::BeforeFirstWrite(std::function<void()> routine) {
+  before_first_write_ = std::move(routine);
+}
+
+void Database::WillWrite() {
+  // The routine may itself use the connection; it does not run into itself.
+  if (!before_first_write_ || in_before_first_write_) return;
+  struct Running {
+    bool& flag;
+    explicit Running(bool& f) : flag(f) { flag = true; }
+    ~Running() { flag = false; }
+  } running(in_before_first_write_);
+  before_first_write_();
+  before_first_write_ = nullptr;
+}
+
+void Database::StopWhen(const std::atomic<bool>* stop) {
+  sqlite3_progress_handler(
+      db_, 1000,
+      [](void* flag) -> int { return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0; },
+      const_cast<std::atomic<bool>*>(stop));
+}
+
+// The copy is written without a journal: a copy that fails half-way is
+// thrown away, never repaired. Its pages pass through the store's key and
+// the copy's own (a salt of its own, the same password).
+void Database::CopyTo(const QString& path, const QString& password) {
+  auto copy = OpenWith(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  copy->Exec("PRAGMA journal_mode = OFF");
+  sqlite3_backup* backup = sqlite3_backup_init(copy->db_, "main", db_, "main");
+  if (backup == nullptr) copy->Fail();
+  const int rc = sqlite3_backup_step(backup, -1);
+  sqlite3_backup_finish(backup);  // reports the failure of a step on the copy's connection
+  if (rc != SQLITE_DONE) throw ErrorOf(copy->db_, rc);
+}
 
 Statement::~Statement() { sqlite3_finalize(stmt_); }
 
@@ -168,6 +211,7 @@ int Statement::Run() {
 }
 
 bool Statement::Next() {
+  if (sqlite3_stmt_busy(stmt_) == 0 && sqlite3_stmt_readonly(stmt_) == 0) db_.WillWrite();
   const int rc = sqlite3_step(stmt_);
   if (rc == SQLITE_ROW) return true;
   if (rc == SQLITE_DONE) return false;

@@ -5,7 +5,9 @@
 
 #include <QString>
 #include <QtGlobal>
+#include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -36,6 +38,8 @@ class Database {
   // Creates a new, empty, encrypted store file. Throws StoreError when the
   // file exists already or cannot be made.
   static std::unique_ptr<Database> Create(const QString& path, const QString& password);
+  // Opens an existing store for reading only (a check of its health, a copy).
+  static std::unique_ptr<Database> OpenReadOnly(const QString& path, const QString& password);
 
   ~Database();
   Database(const Database&) = delete;
@@ -56,14 +60,33 @@ class Database {
 
   [[noreturn]] void Fail() const;  // throws the connection's last error
 
+  // Runs `routine` right before the first statement that would change the
+  // store (one SQLite does not call read-only: INSERT, UPDATE, DELETE, BEGIN
+  // IMMEDIATE, a schema change) takes its first step, whichever routine
+  // issues it. Once it returns it is done for the connection's life; while it
+  // throws, the statement does not run and the routine waits for the next.
+  void BeforeFirstWrite(std::function<void()> routine);
+  // Makes the statement running on this connection fail with SQLITE_INTERRUPT
+  // soon after `*stop` is set, from any thread. The flag must outlive the
+  // connection.
+  void StopWhen(const std::atomic<bool>* stop);
+  // Copies the store, as committed, into a new file at `path` keyed with
+  // `password`, with SQLite's online backup. Throws StoreError; the file may
+  // then be left partly written.
+  void CopyTo(const QString& path, const QString& password);
+
  private:
+  friend class Statement;
   explicit Database(sqlite3* db);
   static void UseWriteAheadLog(Database& db);
   static std::unique_ptr<Database> OpenWith(const QString& path, const QString& password,
                                             int flags);
+  void WillWrite();  // runs the routine given to BeforeFirstWrite, if any
   sqlite3* db_;
   struct Cache;
   std::unique_ptr<Cache> cache_;
+  std::function<void()> before_first_write_;
+  bool in_before_first_write_ = false;
 };
 
 // A prepared statement. Reset on every Run/Query so it can be reused.

@@ -1,6 +1,7 @@
 // The program itself, started beside stores it cannot use: it says why in one
-// message, ends with status 1 before showing a window, and leaves the store
-// exactly as it found it.
+// message, ends with status 1 (before showing a window, or as soon as the
+// health check has found the store damaged), and leaves the store exactly as
+// it found it.
 
 #include <gtest/gtest.h>
 
@@ -10,10 +11,14 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <functional>
+#include <optional>
 
+#include "shell/store_texts.h"
 #include "shell/texts.h"
+#include "store/backups.h"
 #include "store/schema.h"
 #include "store/store_file.h"
+#include "store/store_lock.h"
 
 namespace veroxia {
 namespace {
@@ -25,24 +30,57 @@ QByteArray ReadFile(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Overwrites bytes in the middle of a store of many lines, where only a read
+// of the whole file finds them; one backup was made before.
+void Damage(const QString& path) {
+  CreateStore(path, StorePassword());
+  auto db = Database::Open(path, StorePassword());
+  db->Exec(
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, surname) WITH RECURSIVE n(i) AS (SELECT 1 UNION "
+      "ALL SELECT i + 1 FROM n WHERE i < 3000) SELECT 1, i, 'S' || i FROM n");
+  MakeBackup(*db, path, StorePassword(), QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9)));
+  db.reset();
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(file.size() / 2));
+  file.write(QByteArray(16, '\0'));
+}
+
 TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
   const auto read_only = [](const QString& path) {
     CreateStore(path, StorePassword());
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
   };
+  const auto dir_of = [](const QString& path) { return QFileInfo(path).absolutePath(); };
+  std::optional<StoreLock> other_program;
+  const QString critical = texts::kStoreCritical + u"\\n"_s + texts::kErrorCode;
   const struct {
     const char* name;
-    std::function<void(const QString& path)> make;  // what stands where the store should be
-    bool critical;  // the critical-error message; otherwise the missing-file one
+    std::function<void(const QString& path)> make;     // what stands where the store should be
+    std::function<QString(const QString& path)> line;  // the message, or how it starts
+    bool whole;                                        // the message is the whole line
   } cases[] = {
-      {"NoStore", [](const QString&) {}, false},
-      {"Directory", [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); }, false},
-      {"OtherPassword", [](const QString& path) { CreateStore(path, u"other"_s); }, true},
-      {"ReadOnly", read_only, true},
+      // clang-format off
+      {"NoStore", [](const QString&) {}, [](const QString&) { return texts::kStoreMissing; }, true},
+      {"Directory", [](const QString& path) { ASSERT_TRUE(QDir().mkpath(path)); },
+       [](const QString&) { return texts::kStoreMissing; }, true},
+      {"OtherPassword", [](const QString& path) { CreateStore(path, u"other"_s); },
+       [&](const QString&) { return critical; }, false},
+      {"ReadOnly", read_only, [](const QString& path) { return store_texts::kFileReadOnly.arg(path); }, true},
+      {"ReadOnlyFolder", [&](const QString& path) {
+         CreateStore(path, StorePassword());
+         QFile::setPermissions(dir_of(path), QFile::ReadOwner | QFile::ExeOwner);
+       }, [&](const QString& path) { return store_texts::kFolderReadOnly.arg(dir_of(path)); }, true},
+      {"Held", [&](const QString& path) {
+         CreateStore(path, StorePassword());
+         ASSERT_EQ(other_program.emplace(path).Take(), StoreLock::Outcome::kHeld);
+       }, [](const QString& path) { return store_texts::kHeld.arg(path); }, true},
+      {"Damaged", Damage, [&](const QString& path) {
+         return store_texts::kDamaged.arg(path) + u"\\n"_s +
+                store_texts::kBackupsListed.arg(dir_of(path) + u"/backups"_s) +
+                u"\\nQorDb-20240506-070809.mdb\\n"_s + store_texts::kRestoreHint;
+       }, true},
+      // clang-format on
   };
-  const QString missing = texts::kAppTitle + u'\t' + texts::kStoreMissing;
-  const QString critical =
-      texts::kAppTitle + u'\t' + texts::kStoreCritical + u"\\n"_s + texts::kErrorCode;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
   environment.insert(u"VEROXIA_UNATTENDED"_s, u"1"_s);
@@ -58,11 +96,14 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     const QStringList entries_before = entries();
     const QFileInfo before(store);
     const QByteArray bytes = ReadFile(store);
+    const QString expected = texts::kAppTitle + u'\t' + c.line(store);
 
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(program, {});
-    if (!process.waitForFinished(30'000)) {
+    const bool ended = process.waitForFinished(30'000);
+    QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!ended) {
       process.kill();
       process.waitForFinished();
       FAIL() << "the program did not end";
@@ -72,17 +113,18 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     const QStringList lines =
         QString::fromUtf8(process.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
     ASSERT_EQ(lines.size(), 1) << lines.join(u'\n').toStdString();
-    if (c.critical) {
-      EXPECT_TRUE(lines[0].startsWith(critical)) << lines[0].toStdString();
-      EXPECT_GT(lines[0].size(), critical.size() + 2);  // a number and a description
+    if (c.whole) {
+      EXPECT_EQ(lines[0], expected);
     } else {
-      EXPECT_EQ(lines[0], missing);
+      EXPECT_TRUE(lines[0].startsWith(expected)) << lines[0].toStdString();
+      EXPECT_GT(lines[0].size(), expected.size() + 2);  // a number and a description
     }
     EXPECT_EQ(entries(), entries_before);
     const QFileInfo after(store);
     EXPECT_EQ(after.isDir(), before.isDir());
     EXPECT_EQ(after.permissions(), before.permissions());
     EXPECT_EQ(ReadFile(store), bytes);
+    other_program.reset();
   }
 }
 

@@ -5,12 +5,16 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <optional>
 
 #include "filing/texts.h"
 #include "filing/totals.h"
 #include "filing/volume_check.h"
 #include "printing/texts.h"
+#include "shell/store_texts.h"
 #include "shell/texts.h"
+#include "store/backups.h"
+#include "store/store_lock.h"
 #include "support/fakes.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
@@ -21,8 +25,15 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace filing_texts;
 
+QByteArray Bytes(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 // A common declaration 3 of two lines, submitted, and a construction
-// declaration 4 without lines or submission date.
+// declaration 4 without lines or submission date. A backup of that store is
+// restored last; files that are no such backup are refused before anything
+// changes, and so is any restore while a program holds the store.
 TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   testing::TempStore store;
   Database& db = store.Open();
@@ -36,19 +47,30 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days, insurance_days, "
       "salary, payed_contr) VALUES (3, 1, '1', '1', '1', '25', '10,25', '0,5'), "
       "(3, 2, '1', '0', '0', '25', '10,25', '0,5')");
-  store.vars.StoreConnection.reset();
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
+  const QString backup = MakeBackup(db, path, StorePassword(), QDateTime(QDate(2001, 2, 3), {}));
+  store.vars.StoreConnection.reset();
   ASSERT_TRUE(QDir().mkdir(out));
   const QString broken = store.Dir() + u"/broken"_s;  // a volume of one record cut short
   ASSERT_TRUE(QDir().mkdir(broken));
   if (QFile cut(broken + u"/CSL01"_s); cut.open(QIODevice::WriteOnly)) cut.write("1");
+  const QString other_password = out + u"/other.mdb"_s, no_store = out + u"/notes.txt"_s,
+                other_schema = out + u"/schema.mdb"_s;
+  CreateStore(other_password, u"another password"_s);
+  QFile notes(no_store);
+  ASSERT_TRUE(notes.open(QIODevice::WriteOnly) && notes.write("Declarations to file.\n") > 0);
+  notes.close();
+  CreateStore(other_schema, StorePassword());
+  Database::Open(other_schema, StorePassword())->Exec("DROP TABLE QOR_CON_EMPLOYEES");
   const QString usage = u"veroxia-cli: "_s;
+  const auto refused = [](const QString& first_line) { return first_line + u'\n'; };
   const QString page1 = u"\n\n\n\n"_s, of = printing_texts::kOf;
   const struct {
     QStringList args;
     int status;
-    QString out;  // how standard output starts; empty: nothing
-    QString err;  // how standard error starts; empty: nothing, unless it failed
+    QString out;        // how standard output starts; empty: nothing
+    QString err;        // how standard error starts; empty: nothing, unless it failed
+    bool held = false;  // another program holds the store meanwhile
   } cases[] = {
       // clang-format off
       {{u"list"_s, u"--store"_s, path}, 0, u"common\t3\t01/2002-03/2002\t01\t2\nconstruction\t4\t07/2004\t\t0\n"_s, {}},
@@ -83,10 +105,25 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"list"_s, u"all"_s}, 2, {}, usage + u"unknown command: list all\n"_s},
       {{}, 2, {}, u"Usage: veroxia-cli"_s},
       {{u"--help"_s}, 0, u"Usage: veroxia-cli"_s, {}},
+      {{u"--store"_s, path, u"backup"_s}, 0, BackupFolder(path) + u"/QorDb-"_s, {}},
+      {{u"--store"_s, path, u"backup"_s, u"now"_s}, 2, {}, usage + u"backup takes no more words\n"_s},
+      {{u"--store"_s, path + u"x"_s, u"backup"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, path, u"restore"_s}, 2, {}, usage + u"restore needs one file\n"_s},
+      {{u"--store"_s, path, u"restore"_s, other_password}, 1, {}, refused(store_texts::kRestoreOtherPassword.arg(other_password))},
+      {{u"--store"_s, path, u"restore"_s, no_store}, 1, {}, refused(store_texts::kRestoreNotAStore.arg(no_store))},
+      {{u"--store"_s, path, u"restore"_s, other_schema}, 1, {}, refused(store_texts::kRestoreOtherSchema.arg(other_schema)) + texts::kErrorDescription + u"no such table: QOR_CON_EMPLOYEES\n"_s},
+      {{u"--store"_s, path, u"restore"_s, out + u"/none.mdb"_s}, 1, {}, refused(store_texts::kRestoreUnreadable.arg(out + u"/none.mdb"_s))},
+      {{u"--store"_s, path, u"restore"_s, backup}, 1, {}, refused(store_texts::kRestoreHeld.arg(path)) + store_texts::kNothingChanged, true},
+      {{u"--store"_s, path, u"restore"_s, backup}, 0, store_texts::kRestored.arg(path, backup) + u'\n' + store_texts::kReplacedKept.first(store_texts::kReplacedKept.indexOf(u'%')) + BackupFolder(path) + u"/QorDb-"_s, {}},
       // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.args.join(u' ').toStdString());
+    std::optional<StoreLock> lock;
+    if (c.held) {
+      ASSERT_EQ(lock.emplace(path).Take(), StoreLock::Outcome::kHeld);
+    }
+    const QByteArray before = Bytes(path);
     QProcess process;
     process.start(QStringLiteral(VEROXIA_CLI), c.args);
     ASSERT_TRUE(process.waitForFinished(60'000));
@@ -96,12 +133,21 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
     EXPECT_TRUE(run_out.startsWith(c.out) && run_out.isEmpty() == c.out.isEmpty());
     EXPECT_TRUE(run_err.startsWith(c.err)) << run_err.toStdString();
     EXPECT_EQ(run_err.isEmpty(), c.err.isEmpty() && c.status == 0);
+    // Only a restore that went through changes the store.
+    if (!c.args.contains(u"restore"_s) || c.status != 0) {
+      EXPECT_EQ(Bytes(path), before);
+    }
     // Pages are parted by form feeds: two pages of the declaration with lines.
     if (c.args.contains(u"print"_s)) {
       EXPECT_EQ(run_out.count(u'\f'), c.args.contains(u"3"_s) && c.args.contains(u"declaration"_s));
     }
   }
-  EXPECT_EQ(QDir(out).entryList(QDir::Files), QStringList{u"CSL01"_s});
+  // The backup made first, the one of the command, and the store replaced.
+  EXPECT_EQ(ListBackups(path).size(), 3);
+  EXPECT_EQ(ListBackups(path).last(), backup);
+  EXPECT_EQ(Bytes(path).size(), Bytes(backup).size());
+  EXPECT_EQ(QDir(out).entryList(QDir::Files),
+            (QStringList{u"CSL01"_s, u"notes.txt"_s, u"other.mdb"_s, u"schema.mdb"_s}));
   QFile volume(out + u"/CSL01"_s);
   ASSERT_TRUE(volume.open(QIODevice::ReadOnly));
   const QByteArray bytes = volume.readAll();

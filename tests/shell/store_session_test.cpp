@@ -1,0 +1,165 @@
+// The store as the program opens it: a store it cannot write, or that
+// another program holds, is told at once; a damaged one is told with its
+// backups and never written to; otherwise the first change of the session
+// is preceded by a backup, and a backup that fails is told once while the
+// changes go ahead.
+
+#include <gtest/gtest.h>
+#include <sqlcipher/sqlite3.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <functional>
+#include <optional>
+
+#include "shell/store_open.h"
+#include "shell/store_texts.h"
+#include "shell/texts.h"
+#include "store/backups.h"
+#include "support/fakes.h"
+#include "support/store_rows.h"
+
+namespace veroxia {
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace store_texts;
+
+QByteArray Bytes(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Overwrites bytes in the middle of the file, in a page that only a read of
+// the whole store reaches.
+void Damage(const QString& path) {
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  ASSERT_TRUE(file.seek(file.size() / 2));
+  file.write(QByteArray(16, '\0'));
+}
+
+int Lines(const QString& path) {
+  auto db = Database::Open(path, StorePassword());
+  Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
+  return count.Next() ? count.Int(0) : -1;
+}
+
+TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
+  const QString backups = u"backups"_s;
+  std::optional<StoreLock> other_program;
+  const struct {
+    const char* name;
+    std::function<void(const QString& dir, const QString& path)> make;
+    std::function<QString(const QString& dir, const QString& path)> message;  // empty: none
+    bool opens;
+    bool writes;  // the two changes go ahead
+    int backups;  // backups in the folder afterwards (2 made beforehand when damaged)
+  } cases[] = {
+      {"Sound", [](const QString&, const QString&) {}, {}, true, true, 1},
+      {"LockLeftByACrash",
+       [](const QString&, const QString& path) {
+         QProcess gone;  // a process id that no process has any more
+         gone.start(u"true"_s, {});
+         ASSERT_TRUE(gone.waitForStarted());
+         const qint64 pid = gone.processId();
+         ASSERT_TRUE(gone.waitForFinished());
+         QFile lock(path + u".lock"_s);
+         ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+         lock.write(QByteArray::number(pid) + "\nveroxia\n\n");
+       },
+       {},
+       true,
+       true,
+       1},
+      {"BackupFolderCannotBeMade",
+       [&](const QString& dir, const QString&) {
+         ASSERT_TRUE(QFile(dir + u'/' + backups).open(QIODevice::WriteOnly));
+       },
+       [](const QString& dir, const QString&) {
+         return kBackupFailed.arg(dir + u"/backups"_s) + u"\r\n"_s + texts::kErrorDescription +
+                kFolderNotWritable + u"\r\n"_s + kChangesGoAhead;
+       },
+       true, true, 0},
+      {"Damaged",
+       [](const QString&, const QString& path) {
+         auto db = Database::Open(path, StorePassword());
+         MakeBackup(*db, path, StorePassword(), QDateTime(QDate(2024, 1, 2), QTime(8, 0)));
+         MakeBackup(*db, path, StorePassword(), QDateTime(QDate(2023, 12, 31), QTime(23, 59)));
+         db.reset();
+         Damage(path);
+       },
+       [](const QString& dir, const QString& path) {
+         return kDamaged.arg(path) + u"\r\n"_s + kBackupsListed.arg(dir + u"/backups"_s) +
+                u"\r\nQorDb-20240102-080000.mdb\r\nQorDb-20231231-235900.mdb\r\n"_s + kRestoreHint;
+       },
+       true, false, 2},
+      {"ReadOnlyFile",
+       [](const QString&, const QString& path) {
+         QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup);
+       },
+       [](const QString&, const QString& path) { return kFileReadOnly.arg(path); }, false, false,
+       0},
+      {"ReadOnlyFolder",
+       [](const QString& dir, const QString&) {
+         QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner);
+       },
+       [](const QString& dir, const QString&) { return kFolderReadOnly.arg(dir); }, false, false,
+       0},
+      {"HeldByAnotherProgram",
+       [&](const QString&, const QString& path) {
+         ASSERT_EQ(other_program.emplace(path).Take(), StoreLock::Outcome::kHeld);
+       },
+       [](const QString&, const QString& path) { return kHeld.arg(path); }, false, false, 0},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    testing::TempStore store;
+    testing::AddLines(store.Open(), Kind::Common, 1, 3000);
+    store.vars.StoreConnection.reset();
+    store.vars.StoreOpen = false;
+    c.make(store.Dir(), store.Path());
+    const QByteArray before = Bytes(store.Path());
+    testing::FakeDialogs dialogs;
+    int ended = 0;
+
+    EXPECT_EQ(OpenStore(store.vars, dialogs, [&] { ++ended; }), c.opens);
+    int written = 0;
+    for (int change = 0; change < 2 && store.vars.StoreOpen; ++change) {
+      try {
+        testing::AddLines(*store.vars.StoreConnection, Kind::Common, 2 + change, 1);
+        ++written;
+      } catch (const StoreError& error) {
+        EXPECT_EQ(error.code, SQLITE_CORRUPT);
+      }
+    }
+    CloseStore(store.vars);
+    other_program.reset();
+    QFile::setPermissions(store.Dir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(store.Path(), QFile::ReadOwner | QFile::WriteOwner);
+
+    EXPECT_EQ(written, c.writes ? 2 : 0);
+    const QString message = c.message ? c.message(store.Dir(), store.Path()) : QString();
+    ASSERT_EQ(dialogs.messages.size(), message.isEmpty() ? 0u : 1u);
+    if (!message.isEmpty()) {
+      EXPECT_EQ(dialogs.messages[0].text, message);
+      EXPECT_EQ(dialogs.messages[0].title, texts::kAppTitle);
+    }
+    EXPECT_EQ(ended, c.opens && !c.writes ? 1 : 0);
+    const QStringList made = ListBackups(store.Path());
+    EXPECT_EQ(made.size(), c.backups);
+    if (!c.writes) {
+      EXPECT_EQ(Bytes(store.Path()), before);
+    }
+    // The backup was made before the first change reached the store.
+    if (c.writes && c.backups == 1) {
+      EXPECT_EQ(Lines(made.first()), 3000);
+    }
+    EXPECT_FALSE(QFileInfo::exists(store.Path() + u".lock"_s));
+  }
+}
+
+}  // namespace
+}  // namespace veroxia
