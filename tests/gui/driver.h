@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -119,6 +120,8 @@ inline void ExpectNothingCut(const QWidget& window) {
     EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
     if (const auto* button = qobject_cast<const WrapButton*>(widget)) {
       EXPECT_TRUE(button->CaptionFits()) << name;
+    } else if (const auto* push = qobject_cast<const QPushButton*>(widget)) {
+      EXPECT_GE(push->width(), push->sizeHint().width()) << name;
     } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
       EXPECT_LE(label->minimumSizeHint().width(), label->width()) << name;
       EXPECT_LE(label->minimumSizeHint().height(), label->height()) << name;
