@@ -285,6 +285,10 @@ TEST_F(OvtForm2Test, SeekFindsTheFirstLineInReadingOrder) {
     form_->SeekCmd_Click();
     EXPECT_EQ(form_->Text(u"Text19"_s), QString::fromLatin1(shown)) << answer.text.toStdString();
     EXPECT_EQ(dialogs_.LastMessage(), told);
+    if (!told.isEmpty()) {  // still on the line shown before
+      form_->Nextcmd_Click();
+      EXPECT_EQ(form_->Text(u"Text19"_s), u"300000000"_s);
+    }
   }
 }
 
