@@ -147,6 +147,7 @@ TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
             (QStringList{u"005"_s, *row.con_descr, *row.from_month, *row.from_year, kEmptyDateBox,
                          *row.stop_date, u"03"_s}));
   EXPECT_TRUE(stored.At(u"QorConInsert"_s).enabled);
+  EXPECT_FALSE(stored.At(u"Text1"_s).visible || stored.At(u"Text1"_s).enabled);  // code kept only
   stored.QorConInsert_Click();
   EXPECT_EQ(screens_.shown, QStringList{u"lines construction"_s});
   EXPECT_TRUE(stored.QueryClose());
