@@ -1,7 +1,7 @@
 #pragma once
-// A common-business header screen over its own temporary store, and the few
-// helpers its tests share: a header that passes every check, the state of
-// the fields and buttons as one list, and the stored header rows.
+// A header screen of either kind over its own temporary store; for the
+// common one, a header that passes every check, the state of the fields and
+// buttons as one list, and the stored header rows.
 
 #include <gtest/gtest.h>
 
@@ -18,8 +18,36 @@ namespace veroxia::testing {
 
 using namespace Qt::StringLiterals;
 
-// Fields that are never unlocked, and the two that are never shown (all
-// others always are).
+template <class Screen>
+class HeaderTest : public ::testing::Test {
+ protected:
+  HeaderTest(int id, const QString& from, const QString& to) {
+    vars_.DeclarationId = id;
+    vars_.PreviousDeclarationId = id - 1;
+    vars_.PeriodFrom = from;
+    vars_.PeriodTo = to;
+  }
+  // A fresh screen on the shared variables, loaded.
+  Screen& Open() {
+    form_ = std::make_unique<Screen>(vars_, dialogs_, screens_);
+    form_->Load();
+    return *form_;
+  }
+  QStringList Texts(const QStringList& names) const {
+    QStringList texts;
+    for (const QString& name : names) texts << form_->Text(name);
+    return texts;
+  }
+
+  TempStore store_;
+  Vars& vars_ = store_.vars;
+  Database& db_ = store_.Open();
+  FakeDialogs dialogs_;
+  FakeScreens screens_;
+  std::unique_ptr<Screen> form_;
+};
+
+// Fields never unlocked, and the two never shown (all others always are).
 inline const QStringList kAlwaysLocked{u"Text11_1"_s, u"Text11_2"_s, u"Text12_1"_s, u"Text12_2"_s,
                                        u"Text13_1"_s, u"Text13_2"_s, u"Text13_3"_s};
 inline const QStringList kHidden{u"Text1"_s, u"KodDescr"_s};
@@ -41,23 +69,10 @@ inline const QStringList kViewState = StateOf(false, u"UpDateCmd ExitCmd"_s, tru
 inline const QStringList kCorrectingState = StateOf(true, u"SaveCmd CancelCmd"_s, false);
 inline const QStringList kLoadFailedState = StateOf(false, u"ExitCmd"_s, false);
 
-class OvtForm1Test : public ::testing::Test {
+class OvtForm1Test : public HeaderTest<OvtForm1> {
  protected:
   static constexpr int kId = 7;
-
-  OvtForm1Test() {
-    vars_.DeclarationId = kId;
-    vars_.PreviousDeclarationId = kId - 1;
-    vars_.PeriodFrom = u"012002"_s;
-    vars_.PeriodTo = u"032002"_s;
-  }
-
-  // A fresh screen on the shared variables, loaded.
-  OvtForm1& Open() {
-    form_ = std::make_unique<OvtForm1>(vars_, dialogs_, screens_);
-    form_->Load();
-    return *form_;
-  }
+  OvtForm1Test() : HeaderTest(kId, u"012002"_s, u"032002"_s) {}
 
   // Types a header that passes every check: type 01, no dates, totals 0.
   void TypeValidHeader() {
@@ -86,12 +101,6 @@ class OvtForm1Test : public ::testing::Test {
   void Store(const EmployerRow& row) { ASSERT_EQ(InsertRow(db_, row), 1); }
   std::optional<EmployerRow> Stored(int id = kId) { return SelectHeader<EmployerRow>(db_, id); }
   int HeaderCount() { return static_cast<int>(DumpTable(db_, "QOR_EMPLOYERS").size()); }
-
-  QStringList Texts(const QStringList& names) const {
-    QStringList texts;
-    for (const QString& name : names) texts << form_->Text(name);
-    return texts;
-  }
 
   // The state the user sees, listed as StateOf lists it; anything out of
   // place (a field left locked, a field shown or hidden wrongly) is listed too.
@@ -122,13 +131,6 @@ class OvtForm1Test : public ::testing::Test {
     EXPECT_EQ(2 * on, static_cast<long>(dialogs_.busy_calls.size()));
     EXPECT_FALSE(dialogs_.busy);
   }
-
-  TempStore store_;
-  Vars& vars_ = store_.vars;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
-  std::unique_ptr<OvtForm1> form_;
 };
 
 }  // namespace veroxia::testing

@@ -68,10 +68,13 @@ class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface
 const QString kNoTable = u"no such table: QOR_EMPLOYERS"_s;
 const QStringList kSaved{kSaveTitle, kSaveDone};
 const QStringList kRefused{texts::kAppTitle, kNoTable};  // a store error: its own text alone
-const QStringList kUnreadable{
-    texts::kAppTitle,
-    kLoadFailed + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s + texts::kErrorDescription + kNoTable};
+// The first line, then the store's error number and text.
+QStringList Unreadable(const QString& first) {
+  return {texts::kAppTitle,
+          first + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s + texts::kErrorDescription + kNoTable};
+}
 
+// clang-format off
 const StateCase kStateCases[] = {
     {"NewHeader", "open", kNewState, true},
     {"TakenOver", "previous carry open", kTakeoverState, true},
@@ -80,38 +83,21 @@ const StateCase kStateCases[] = {
     {"CancelledCorrection", "row open update cancel", kViewState, false},
     {"NewHeaderSaved", "open valid save", kViewState, false, kSaved},
     {"TakenOverSaved", "previous carry open save", kViewState, false, kSaved},
-    {"CorrectedRowVanished",
-     "row open update valid vanish save",
-     kViewState,
-     false,
-     {kSaveTitle, kSaveFailed}},
+    {"CorrectedRowVanished", "row open update valid vanish save", kViewState, false, {kSaveTitle, kSaveFailed}},
     // Only the first failure in the order of the checks is told.
-    {"FailedCheck",
-     "open valid type02 badtotal nocity blank save",
-     kNewState,
-     true,
-     {texts::kAppTitle, kText3Blank}},
-    {"FailedLaterCheck",
-     "open valid type02 badtotal nocity save",
-     kNewState,
-     true,
-     {texts::kAppTitle, kCityBlank}},
+    {"FailedCheck", "open valid type02 badtotal nocity blank save", kNewState, true, {texts::kAppTitle, kText3Blank}},
+    {"FailedLaterCheck", "open valid type02 badtotal nocity save", kNewState, true, {texts::kAppTitle, kCityBlank}},
     {"InsertRefused", "open valid drop save", kNewState, true, kRefused},
     {"UpdateRefused", "row open update valid drop save", kCorrectingState, false, kRefused},
     // A store that cannot be read leaves only the return.
-    {"Unreadable", "drop open", kLoadFailedState, false, kUnreadable},
-    {"UnreadableTakeover", "drop carry open", kLoadFailedState, true, kUnreadable},
+    {"Unreadable", "drop open", kLoadFailedState, false, Unreadable(kLoadFailed)},
+    {"UnreadableTakeover", "drop carry open", kLoadFailedState, true, Unreadable(kLoadFailed)},
     // The declaration printout asks first (No), the summary goes to the
     // preview, the file asks about the totals first (No).
     {"FileAndPrintouts", "row open print printsum file", kViewState, false},
     // The totals in their window, or why they could not be compared.
     {"Totals", "row open totals", kViewState, false},
-    {"TotalsUnreadable",
-     "row open drop totals",
-     kViewState,
-     false,
-     {texts::kAppTitle, kTotalsNotCompared + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s +
-                            texts::kErrorDescription + kNoTable}},
+    {"TotalsUnreadable", "row open drop totals", kViewState, false, Unreadable(kTotalsNotCompared)},
     // The volumes of a chosen directory in their window; none chosen, nothing.
     {"Volumes", "row open volumes", kViewState, false},
     {"NoMedium", "row open nomedium", kViewState, false},
@@ -119,12 +105,12 @@ const StateCase kStateCases[] = {
      "row open volumes drop volumes",
      kViewState,
      false,
-     {texts::kAppTitle, kVolumesNotChecked + u"\r\n"_s + texts::kErrorCode + u"1\r\n"_s +
-                            texts::kErrorDescription + kNoTable}},
+     Unreadable(kVolumesNotChecked)},
     // The buttons that leave show the next screen, without a question.
     {"Returned", "open exit", kNewState, true, {}, {u"start"_s}},
     {"ToTheEmployees", "row open employees", kViewState, false, {}, {u"lines common"_s}},
 };
+// clang-format on
 
 TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
   const StateCase& c = GetParam();

@@ -145,48 +145,38 @@ TEST_F(OvtForm1Store, UnknownOrMissingTypeShowsTheRegularTypeAndNullsShowEmpty) 
   }
 }
 
+// Stored unchecked, with the period of the start screen, no dates and the
+// previous lines under the new id; a refused INSERT leaves it pending.
 TEST_F(OvtForm1Store, TakenOverHeaderIsStoredUncheckedWithTheLinesUnderTheNewId) {
-  constexpr int kPrevious = 3;
-  const EmployerRow previous = StoredRow(kPrevious);
+  const EmployerRow previous = StoredRow(kId - 1);
   Store(previous);
-  for (int row_num = 1; row_num <= 3; ++row_num) {
-    InsertRow(db_, Sample<EmployeeRow>(kPrevious, row_num));
-  }
-  vars_.PreviousDeclarationId = kPrevious;
-  vars_.DeclarationId = kPrevious + 1;
+  for (int row_num = 1; row_num <= 3; ++row_num)
+    InsertRow(db_, Sample<EmployeeRow>(kId - 1, row_num));
   vars_.CarryOver = true;
-  vars_.PeriodFrom = u"042002"_s;
-  vars_.PeriodTo = u"062002"_s;
-
   OvtForm1& form = Open();
   EXPECT_EQ(form.SelectedType(), 1);
   EXPECT_EQ(
       Texts({"Text4", "Text17_3", "Text11_1", "Text12_1", "FlDateTxt", "StopDateTxt", "Text13_2"}),
-      (QStringList{*previous.employer_name, *previous.total_contributions, u"04"_s, u"06"_s,
-                   kEmptyDateBox, kEmptyDateBox, u"05/2002"_s}));
-  EXPECT_FALSE(Stored(kPrevious + 1).has_value());  // nothing is stored before the save
-
-  // A refused INSERT leaves the takeover pending.
+      (QStringList{*previous.employer_name, *previous.total_contributions, u"01"_s, u"03"_s,
+                   kEmptyDateBox, kEmptyDateBox, u"02/2002"_s}));
   db_.Exec(
       "CREATE TRIGGER refuse BEFORE INSERT ON QOR_EMPLOYERS BEGIN SELECT RAISE(ABORT, 'x'); END");
   form.SaveCmd_Click();
   EXPECT_EQ(dialogs_.LastMessage(), u"x"_s);
-  EXPECT_TRUE(vars_.CarryOver);
-  EXPECT_TRUE(form.IsNewHeader());
+  EXPECT_TRUE(vars_.CarryOver && form.IsNewHeader());
+  EXPECT_FALSE(Stored().has_value());
   db_.Exec("DROP TRIGGER refuse");
 
   form.SaveCmd_Click();
   EXPECT_EQ(dialogs_.LastMessage(), kSaveDone);
-  EXPECT_FALSE(vars_.CarryOver);
-  EXPECT_FALSE(form.IsNewHeader());
+  EXPECT_FALSE(vars_.CarryOver || form.IsNewHeader());
   ExpectBusyBalanced();
-  EXPECT_EQ(CountLines(db_, Kind::Common, kPrevious + 1), 3);
-  const auto stored = Stored(kPrevious + 1);
-  ASSERT_TRUE(stored.has_value());
-  EXPECT_EQ((std::vector<Text>{stored->declaration_type, stored->total_salaries, stored->from_month,
-                               stored->to_month, stored->CreateFlDate, stored->stop_date}),
-            (std::vector<Text>{u"02"_s, previous.total_salaries, u"04"_s, u"06"_s, u""_s, u""_s}));
-  EXPECT_EQ(ValuesOf(*Stored(kPrevious)), ValuesOf(previous));
+  EXPECT_EQ(CountLines(db_, Kind::Common, kId), 3);
+  const EmployerRow stored = Stored().value_or(EmployerRow());
+  EXPECT_EQ((std::vector<Text>{stored.declaration_type, stored.total_salaries, stored.from_month,
+                               stored.to_month, stored.CreateFlDate, stored.stop_date}),
+            (std::vector<Text>{u"02"_s, previous.total_salaries, u"01"_s, u"03"_s, u""_s, u""_s}));
+  EXPECT_EQ(ValuesOf(*Stored(kId - 1)), ValuesOf(previous));
 
   // A correction now faces the checks and updates the same row.
   form.UpDateCmd_Click();
@@ -194,8 +184,7 @@ TEST_F(OvtForm1Store, TakenOverHeaderIsStoredUncheckedWithTheLinesUnderTheNewId)
   EXPECT_EQ(dialogs_.LastMessage(), *CheckInteger(form.Text(u"Text2"_s), kNameOvtCode, 3, true));
   TypeValidHeader();
   form.SaveCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kSaveDone);
-  EXPECT_EQ(Stored(kPrevious + 1)->employer_name, u"ΗΛΙΑΣ Α.Ε."_s);
+  EXPECT_EQ(Stored()->employer_name, u"ΗΛΙΑΣ Α.Ε."_s);
   EXPECT_EQ(HeaderCount(), 2);
 }
 
@@ -204,14 +193,15 @@ TEST_F(OvtForm1Store, AWrongCheckDigitIsAQuestion) {
   OvtForm1& form = Open();
   TypeValidHeader();
   form.Type(u"Text6"_s, u"123456789"_s);
-  form.SaveCmd_Click();
-  ASSERT_EQ(dialogs_.questions.size(), 1u);
-  EXPECT_TRUE(dialogs_.questions[0].text.contains(u"'123456789'"_s));
-  EXPECT_EQ(form.FocusedField(), u"Text6"_s);
-  EXPECT_FALSE(Stored().has_value());
-  dialogs_.answers = {true};
-  form.SaveCmd_Click();
-  EXPECT_EQ(Stored()->taxation_number, u"123456789"_s);
+  for (const bool yes : {false, true}) {
+    dialogs_.answers = {yes};
+    form.SaveCmd_Click();
+    ASSERT_EQ(dialogs_.questions.size(), yes ? 2u : 1u);
+    EXPECT_TRUE(dialogs_.questions.back().text.contains(u"'123456789'"_s));
+    EXPECT_EQ(form.FocusedField(), u"Text6"_s);
+    EXPECT_EQ(Stored().value_or(EmployerRow()).taxation_number,
+              yes ? Text(u"123456789"_s) : Text());
+  }
 }
 
 }  // namespace

@@ -3,63 +3,33 @@
 // save and a correction store them, the branch code shown with three digits,
 // the one month, the takeover, and the store error's message.
 
-#include <gtest/gtest.h>
-
-#include <memory>
-
-#include "header/date_box.h"
 #include "header/ovt_form3.h"
+#include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
-#include "lines/ovt_form4_fixture.h"
-#include "lines/texts.h"
 #include "shell/errors.h"
-#include "shell/start_form.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
-#include "support/fakes.h"
 #include "support/rule_chain.h"
-#include "support/store_rows.h"
 
 namespace veroxia::testing {
 namespace {
 
-using namespace Qt::StringLiterals;
 using namespace header_texts;
 
-class OvtForm3Test : public ::testing::Test {
+class OvtForm3Test : public HeaderTest<OvtForm3> {
  protected:
   static constexpr int kId = 3;
-
-  OvtForm3Test() {
-    vars_.DeclarationId = kId;
-    vars_.PreviousDeclarationId = kId - 1;
-    vars_.PeriodFrom = u"052003"_s;
-    vars_.PeriodTo = u"072003"_s;
-  }
-
-  OvtForm3& Open() {
-    form_ = std::make_unique<OvtForm3>(vars_, dialogs_, screens_);
-    form_->Load();
-    return *form_;
-  }
-
+  OvtForm3Test() : HeaderTest(kId, u"052003"_s, u"072003"_s) {}
   std::optional<ColumnValues> Stored(int id = kId) {
     const auto row = SelectHeader<ConEmployerRow>(db_, id);
     return row ? std::optional(ColumnValuesOf(*row)) : std::nullopt;
   }
-
-  TempStore store_;
-  Vars& vars_ = store_.vars;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
-  std::unique_ptr<OvtForm3> form_;
 };
 
 // Every rule, in order, with a text it refuses and the one typed after.
-const std::vector<RuleStep>& Rules() {
+TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   // clang-format off
-  static const std::vector<RuleStep> rules{
+  const std::vector<RuleStep> rules{
       {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s},
       {"Text3", u" "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
       {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s},
@@ -82,13 +52,9 @@ const std::vector<RuleStep>& Rules() {
       {"StopDateTxt", u"15/05/2003"_s, Fixed(kStopDateNotIn01), true, kEmptyDateBox},
   };
   // clang-format on
-  return rules;
-}
-
-TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   OvtForm3& form = Open();
   ExpectRulesInOrder(
-      form, dialogs_, [&form] { return form.ValidateHeader(); }, Rules());
+      form, dialogs_, [&form] { return form.ValidateHeader(); }, rules);
   // Street numbers are not checked; an extraordinary declaration needs its
   // stop date here as well.
   form.Type(u"Text6"_s, u"x"_s);
@@ -177,21 +143,18 @@ TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
   ASSERT_EQ(InsertRow(db_, row), 1);
   OvtForm3& stored = Open();
   EXPECT_EQ(stored.SelectedType(), 2);
-  const QStringList names{u"Text2"_s,     u"Text9"_s,       u"Text17_1"_s, u"Text17_2"_s,
-                          u"FlDateTxt"_s, u"StopDateTxt"_s, u"Text1"_s};
-  QStringList shown;
-  for (const QString& name : names) shown << stored.Text(name);
-  EXPECT_EQ(shown, (QStringList{u"005"_s, *row.con_descr, *row.from_month, *row.from_year,
-                                kEmptyDateBox, *row.stop_date, u"03"_s}));
+  EXPECT_EQ(Texts({"Text2", "Text9", "Text17_1", "Text17_2", "FlDateTxt", "StopDateTxt", "Text1"}),
+            (QStringList{u"005"_s, *row.con_descr, *row.from_month, *row.from_year, kEmptyDateBox,
+                         *row.stop_date, u"03"_s}));
   EXPECT_TRUE(stored.At(u"QorConInsert"_s).enabled);
+  EXPECT_FALSE(stored.At(u"Text1"_s).visible || stored.At(u"Text1"_s).enabled);  // code kept only
   stored.QorConInsert_Click();
   EXPECT_EQ(screens_.shown, QStringList{u"lines construction"_s});
   EXPECT_TRUE(stored.QueryClose());
 
   vars_.DeclarationId = kId + 1;
   OvtForm3& fresh = Open();
-  EXPECT_EQ(fresh.Text(u"Text17_1"_s) + fresh.Text(u"Text17_2"_s), u"052003"_s);
-  EXPECT_EQ(fresh.Text(u"Text2"_s), u""_s);
+  EXPECT_EQ(Texts({"Text17_1", "Text17_2", "Text2"}), (QStringList{u"05"_s, u"2003"_s, {}}));
   EXPECT_FALSE(fresh.QueryClose());
   EXPECT_EQ(dialogs_.questions.back().title, kConCloseTitle);
 
@@ -201,64 +164,13 @@ TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
   vars_.PreviousDeclarationId = kId;
   vars_.CarryOver = true;
   OvtForm3& taken = Open();
-  EXPECT_EQ(taken.Text(u"Text2"_s), u"005"_s);
-  EXPECT_EQ(taken.Text(u"Text17_1"_s) + taken.Text(u"StopDateTxt"_s), u"05"_s + kEmptyDateBox);
+  EXPECT_EQ(Texts({"Text2", "Text17_1", "StopDateTxt"}),
+            (QStringList{u"005"_s, u"05"_s, kEmptyDateBox}));
   taken.SaveCmd_Click();
   EXPECT_EQ(dialogs_.LastMessage(), kSaveDone);
   EXPECT_EQ(CountLines(db_, Kind::Construction, kId + 1), 2);
   EXPECT_EQ(ValueOf(*Stored(kId + 1), u"ovt_code"_s), u"005"_s);
   EXPECT_EQ(ValueOf(*Stored(kId + 1), u"from_month"_s), u"05"_s);
-}
-
-// The whole road: the start screen opens the header of a new month, the
-// saved header opens the worker screen, lines are inserted, browsed and one
-// deleted, and Back returns to the header, now stored.
-TEST(ConstructionRoad, FromTheStartScreenToTheLinesAndBack) {
-  TempStore store;
-  FakeDialogs dialogs;
-  FakeScreens screens;
-  StartForm start(store.vars, dialogs, screens);
-  ASSERT_TRUE(start.Load());
-  start.Command2_Click();
-  start.Type(u"ConMonth"_s, u"05"_s);
-  start.Type(u"ConYear"_s, u"2003"_s);
-  start.OkCmd_Click();
-  ASSERT_EQ(screens.shown, QStringList{u"header construction"_s});
-
-  OvtForm3 header(store.vars, dialogs, screens);
-  header.Load();
-  for (const RuleStep& rule : Rules()) header.Type(QString::fromLatin1(rule.field), rule.next);
-  header.SaveCmd_Click();
-  EXPECT_EQ(dialogs.LastMessage(), kSaveDone);
-  header.QorConInsert_Click();
-  ASSERT_EQ(screens.shown.back(), u"lines construction"_s);
-
-  OvtForm4 lines(store.vars, dialogs, screens);
-  lines.Load();
-  for (const QString& insured_id : {u"200000000"_s, u"100000000"_s}) {
-    lines.NewCmd_Click();
-    for (const auto& [name, text] : ValidConLine(insured_id)) lines.Type(name, text);
-    lines.OkCmd_Click();
-    EXPECT_EQ(dialogs.LastMessage(), lines_texts::kInsertDone);
-  }
-  lines.CancelCmd_Click();
-  lines.FirstCmd_Click();
-  EXPECT_EQ(lines.Text(u"Text22"_s), u"100000000"_s);
-  lines.Nextcmd_Click();
-  EXPECT_EQ(lines.CurrentRowNum(), u"1"_s);
-  dialogs.answers = {true};
-  lines.DeleteCmd_Click();
-  const auto left = DumpTable(*store.vars.StoreConnection, "QOR_CON_EMPLOYEES");
-  ASSERT_EQ(left.size(), 1U);
-  EXPECT_EQ(left[0][1], u"1"_s);  // renumbered
-  EXPECT_EQ(left[0][3], u"100000000"_s);
-  lines.BackCmd_Click();
-  EXPECT_EQ(screens.shown.back(), u"header construction"_s);
-
-  OvtForm3 again(store.vars, dialogs, screens);
-  again.Load();
-  EXPECT_FALSE(again.IsNewHeader());
-  EXPECT_EQ(again.Text(u"Text2"_s) + again.Text(u"Text17_1"_s), u"01205"_s);
 }
 
 }  // namespace

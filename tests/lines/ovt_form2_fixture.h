@@ -52,6 +52,12 @@ class OvtForm2Test : public ::testing::Test {
     // clang-format on
   }
 
+  QStringList Texts(const QStringList& names) const {
+    QStringList texts;
+    for (const QString& name : names) texts << form_->Text(name);
+    return texts;
+  }
+
   void TypeValidLine(const QString& insured_id = u"123456789"_s,
                      const QString& surname = u"Παπαδάκης"_s) {
     for (const auto& [name, text] : ValidLine(insured_id, surname)) form_->Type(name, text);

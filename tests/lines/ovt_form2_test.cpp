@@ -12,27 +12,55 @@ namespace {
 using namespace lines_texts;
 using Lines = std::vector<std::tuple<int, QString, QString>>;
 
-// A failed check stores nothing and keeps the mode; so does Cancel without
-// lines, keeping what was typed.
-TEST_F(OvtForm2Test, OpensInNewModeWithoutLinesAndStaysThere) {
+// Without lines the screen stays ready for a new one: a failed check stores
+// nothing, Cancel keeps what was typed. A wrong check digit is a question:
+// No keeps the line out with the number selected, Yes stores it. Back closes
+// without asking; the close box asks.
+TEST_F(OvtForm2Test, WithoutLinesItWaitsForANewOne) {
   Open();
   EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_EQ(form_->Text(u"Text39"_s), u"0"_s);
-  EXPECT_EQ(form_->Text(u"Text27"_s), kYes);
-  EXPECT_EQ(form_->Text(u"Text34"_s), kEmptyDateBox);
+  EXPECT_EQ(Texts({"Text39", "Text27", "Text34"}), (QStringList{u"0"_s, kYes, kEmptyDateBox}));
   TypeValidLine();
   form_->Type(u"Text19"_s, u"12"_s);
   form_->OkCmd_Click();
+  form_->CancelCmd_Click();
   EXPECT_EQ(Stored(), Lines{});
   EXPECT_EQ(Mode(), u"new"_s);
   EXPECT_FALSE(form_->HasLines());
-  form_->CancelCmd_Click();
-  EXPECT_EQ(Mode(), u"new"_s);
   EXPECT_EQ(form_->FocusedField(), u"Text18_1"_s);
   EXPECT_EQ(form_->Text(u"Text21"_s), u"Παπαδάκης"_s);
+
+  TypeValidLine();
+  form_->Type(u"Text20"_s, u"12345678901"_s);  // AMKA, Luhn digit wrong
+  form_->Type(u"Text26"_s, u"123456789"_s);    // tax number, digit wrong
+  form_->OkCmd_Click();
+  ASSERT_EQ(dialogs_.questions.size(), 1u);
+  EXPECT_TRUE(dialogs_.questions[0].text.contains(u"'12345678901'"_s));
+  EXPECT_EQ(dialogs_.last_style, AskStyle::Question);
+  EXPECT_EQ(form_->SelectionOf(u"Text20"_s).value_or(Selection{}).length, 11);
+  EXPECT_EQ(Stored(), Lines{});
+  dialogs_.answers = {true, true};
+  form_->OkCmd_Click();
+  ASSERT_EQ(dialogs_.questions.size(), 3u);
+  EXPECT_TRUE(dialogs_.questions[2].text.contains(u"'123456789'"_s));
+  EXPECT_EQ(dialogs_.LastMessage(), kInsertDone);
+  EXPECT_EQ(Stored().size(), 1u);
+
+  EXPECT_FALSE(form_->QueryClose());  // answered No
+  EXPECT_EQ(dialogs_.questions.back().text, kCloseQuestion);
+  EXPECT_EQ(dialogs_.questions.back().title, kHeading);
+  dialogs_.answers = {true};
+  EXPECT_TRUE(form_->QueryClose());
+  EXPECT_EQ(screens_.quit_status, 0);
+  form_->BackCmd_Click();
+  EXPECT_EQ(screens_.shown, QStringList{u"header common"_s});
+  EXPECT_TRUE(form_->QueryClose());
+  EXPECT_EQ(dialogs_.questions.size(), 5u);
 }
 
-TEST_F(OvtForm2Test, ModesFollowTheButtons) {
+// A correction is stored into the line it was made on, found again by its
+// number; one of a line gone behind the screen keeps the typed values.
+TEST_F(OvtForm2Test, ModesFollowTheButtonsAndCorrectionsFindTheirLine) {
   StoreLine(1, u"200000000"_s, u"ΒΑΣΙΛΕΙΟΥ"_s);
   StoreLine(2, u"100000000"_s, u"ΑΛΕΞΙΟΥ"_s);
   Open();
@@ -42,7 +70,7 @@ TEST_F(OvtForm2Test, ModesFollowTheButtons) {
 
   form_->UpDateCmd_Click();
   EXPECT_EQ(Mode(), u"edit"_s);
-  EXPECT_EQ(form_->SelectionOf(u"Text18_1"_s).has_value(), true);
+  EXPECT_TRUE(form_->SelectionOf(u"Text18_1"_s).has_value());
   form_->Type(u"Text21"_s, u"ΑΛΛΟ"_s);
   form_->CancelCmd_Click();
   EXPECT_EQ(Mode(), u"browse"_s);
@@ -50,12 +78,30 @@ TEST_F(OvtForm2Test, ModesFollowTheButtons) {
 
   form_->NewCmd_Click();
   EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_EQ(form_->Text(u"Text19"_s), u""_s);
-  EXPECT_EQ(form_->Text(u"Text46"_s), u"0"_s);
+  EXPECT_EQ(Texts({"Text19", "Text46"}), (QStringList{{}, u"0"_s}));
   form_->Type(u"Text46"_s, u"9"_s);
   form_->ClearCmd_Click();
   EXPECT_EQ(form_->Text(u"Text46"_s), u"0"_s);
   EXPECT_EQ(Mode(), u"new"_s);
+  form_->CancelCmd_Click();
+
+  form_->UpDateCmd_Click();
+  TypeValidLine(u"300000000"_s, u"Γκίκας"_s);  // a new register number too, now read last
+  form_->OkCmd_Click();
+  EXPECT_EQ(dialogs_.LastMessage(), kUpdateDone);
+  EXPECT_EQ(Stored(),
+            (Lines{{1, u"200000000"_s, u"ΒΑΣΙΛΕΙΟΥ"_s}, {2, u"300000000"_s, u"ΓΚΙΚΑΣ"_s}}));
+  EXPECT_EQ(Mode(), u"browse"_s);
+  EXPECT_EQ(form_->Text(u"Text21"_s), u"ΓΚΙΚΑΣ"_s);
+  EXPECT_EQ(form_->CurrentInsuredId(), u"300000000"_s);
+
+  form_->UpDateCmd_Click();
+  TypeValidLine();
+  db_.Exec("DELETE FROM QOR_EMPLOYEES");
+  form_->OkCmd_Click();
+  EXPECT_EQ(dialogs_.LastMessage(), kLineGone);
+  EXPECT_EQ(Mode(), u"edit"_s);
+  EXPECT_EQ(form_->Text(u"Text21"_s), u"Παπαδάκης"_s);
 }
 
 TEST_F(OvtForm2Test, BrowsesInReadingOrderAndSaysWhenAtAnEnd) {
@@ -64,38 +110,30 @@ TEST_F(OvtForm2Test, BrowsesInReadingOrderAndSaysWhenAtAnEnd) {
   StoreLine(3, u"100000000"_s, u"Α"_s, u"01"_s);
   Open();
   EXPECT_EQ(form_->CurrentRowNum(), u"3"_s);  // month 01 before 02
-  form_->PrevCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kNoPrevious);
-  EXPECT_EQ(form_->CurrentRowNum(), u"3"_s);
-  form_->Nextcmd_Click();
-  EXPECT_EQ(form_->CurrentRowNum(), u"2"_s);
-  form_->LastCmd_Click();
-  EXPECT_EQ(form_->CurrentRowNum(), u"1"_s);
-  form_->Nextcmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kNoNext);
-  EXPECT_EQ(form_->Text(u"Text19"_s), u"300000000"_s);
-  form_->PrevCmd_Click();
-  EXPECT_EQ(form_->CurrentRowNum(), u"2"_s);
-  form_->FirstCmd_Click();
-  EXPECT_EQ(form_->CurrentRowNum(), u"3"_s);
-  EXPECT_EQ(dialogs_.messages.size(), 2u);
+  // The line shown after each button, and what was told.
+  const std::tuple<void (LinesForm::*)(), const char*, QString> steps[] = {
+      {&LinesForm::PrevCmd_Click, "3", kNoPrevious}, {&LinesForm::Nextcmd_Click, "2", {}},
+      {&LinesForm::LastCmd_Click, "1", {}},          {&LinesForm::Nextcmd_Click, "1", kNoNext},
+      {&LinesForm::PrevCmd_Click, "2", {}},          {&LinesForm::FirstCmd_Click, "3", {}}};
+  for (const auto& [button, row_num, told] : steps) {
+    dialogs_.messages.clear();
+    (*form_.*button)();
+    EXPECT_EQ(form_->CurrentRowNum(), QString::fromLatin1(row_num));
+    EXPECT_EQ(dialogs_.LastMessage(), told);
+  }
 }
 
 TEST_F(OvtForm2Test, ShowsFlagsDatesAndNullColumns) {
   StoreLine(1, u"100000000"_s, u"Α"_s);
   db_.Exec("INSERT INTO QOR_EMPLOYEES (id) VALUES (4)");  // every other column Null
   db_.Exec("UPDATE QOR_EMPLOYEES SET sal_from = '01/01/2002', sal_to = '' WHERE row_num = 1");
-  Open();
-  EXPECT_EQ(form_->Text(u"Text21"_s), u""_s);  // Null register number sorts first
-  EXPECT_EQ(form_->Text(u"Text27"_s), kNo);
-  EXPECT_EQ(form_->Text(u"Text25"_s), kEmptyDateBox);
-  EXPECT_EQ(form_->Text(u"Text39"_s), u""_s);
+  Open();  // a Null register number sorts first
+  EXPECT_EQ(Texts({"Text21", "Text27", "Text25", "Text39"}),
+            (QStringList{{}, kNo, kEmptyDateBox, {}}));
   EXPECT_EQ(form_->CurrentRowNum(), u""_s);
   form_->Nextcmd_Click();
-  EXPECT_EQ(form_->Text(u"Text27"_s), kYes);
-  EXPECT_EQ(form_->Text(u"Text28"_s), kNo);
-  EXPECT_EQ(form_->Text(u"Text34"_s), u"01/01/2002"_s);
-  EXPECT_EQ(form_->Text(u"Text35"_s), kEmptyDateBox);
+  EXPECT_EQ(Texts({"Text27", "Text28", "Text34", "Text35"}),
+            (QStringList{kYes, kNo, u"01/01/2002"_s, kEmptyDateBox}));
 }
 
 TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
@@ -116,11 +154,10 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   const auto line = SelectLineAt<EmployeeRow>(db_, 3);
   ASSERT_TRUE(line);
   EXPECT_EQ(line->row_num, 6);
-  EXPECT_EQ(line->row.surname, u"ΚΑΪΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s);
-  EXPECT_EQ(line->row.full_day, u"1"_s);  // "ναι" in small letters
-  EXPECT_EQ(line->row.all_days, u"0"_s);
-  EXPECT_EQ(line->row.sal_to, u"28/02/2002"_s);
-  EXPECT_EQ(line->row.special_insur_code, u""_s);
+  const EmployeeRow& row = line->row;  // "ναι" in small letters is 1
+  EXPECT_EQ(
+      (std::vector{row.surname, row.full_day, row.all_days, row.sal_to, row.special_insur_code}),
+      (std::vector<Text>{u"ΚΑΪΡΗΣ-ΠΑΠΑΔΑΚΗΣ'; --"_s, u"1"_s, u"0"_s, u"28/02/2002"_s, u""_s}));
 
   form_->CancelCmd_Click();  // shows the line inserted last
   EXPECT_EQ(Mode(), u"browse"_s);
@@ -140,88 +177,50 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   EXPECT_FALSE(dialogs_.busy);
 }
 
-TEST_F(OvtForm2Test, CorrectsTheLineFoundByItsRememberedKey) {
-  StoreLine(1, u"100000000"_s, u"Α"_s);
-  StoreLine(2, u"200000000"_s, u"Β"_s);
-  Open();
-  form_->UpDateCmd_Click();
-  TypeValidLine(u"300000000"_s, u"Γκίκας"_s);  // a new register number too
-  form_->OkCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kUpdateDone);
-  EXPECT_EQ(Stored(), (Lines{{1, u"300000000"_s, u"ΓΚΙΚΑΣ"_s}, {2, u"200000000"_s, u"Β"_s}}));
-  EXPECT_EQ(Mode(), u"browse"_s);
-  EXPECT_EQ(form_->Text(u"Text21"_s), u"ΓΚΙΚΑΣ"_s);
-  EXPECT_EQ(form_->CurrentInsuredId(), u"300000000"_s);
-}
-
-TEST_F(OvtForm2Test, ACorrectionOfALineGoneBehindTheScreenKeepsTheTypedValues) {
-  StoreLine(1, u"100000000"_s, u"Α"_s);
-  Open();
-  form_->UpDateCmd_Click();
-  TypeValidLine();
-  db_.Exec("DELETE FROM QOR_EMPLOYEES");
-  form_->OkCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kLineGone);
-  EXPECT_EQ(Mode(), u"edit"_s);
-  EXPECT_EQ(form_->Text(u"Text21"_s), u"Παπαδάκης"_s);
-}
-
-struct DeleteCase {
-  std::vector<std::pair<int, const char*>> lines;  // row_num, register number (surname alike)
-  const char* shown;                               // register number of the line deleted
-  Lines left;
-};
-
-class DeleteLineTest : public OvtForm2Test, public ::testing::WithParamInterface<DeleteCase> {};
-
-TEST_P(DeleteLineTest, ClosesTheGapWithoutMakingTwoLinesOneNumber) {
-  for (const auto& [row_num, insured] : GetParam().lines) {
-    StoreLine(row_num, QString::fromLatin1(insured), QString::fromLatin1(insured));
-  }
+// Lines numbered as listed, of the register numbers 1, 2, ... (surnamed
+// alike); the one found by its register number is deleted.
+TEST_F(OvtForm2Test, DeleteClosesTheGapWithoutMakingTwoLinesOneNumber) {
+  const struct {
+    std::vector<int> numbers;
+    int deleted;
+    std::vector<std::pair<int, int>> left;  // row_num, register number
+  } cases[] = {
+      {{1, 2, 3, 4, 5}, 3, {{1, 1}, {2, 2}, {3, 4}, {4, 5}}},
+      {{1, 2}, 2, {{1, 1}}},
+      // Numberings made elsewhere: a gap, and a number held twice.
+      {{1, 2, 4}, 1, {{1, 2}, {3, 3}}},
+      {{1, 2, 2, 3}, 2, {{1, 1}, {2, 3}, {3, 4}}},
+  };
   StoreLine(1, u"555555555"_s, u"OTHER"_s, u"01"_s, kId + 1);  // another declaration
-  Open();
-  dialogs_.searches.push_back({QString::fromLatin1(GetParam().shown), u"AMA"_s});
-  form_->SeekCmd_Click();
-  dialogs_.answers = {true};
-  form_->DeleteCmd_Click();
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.numbers.size());
+    db_.Exec("DELETE FROM QOR_EMPLOYEES WHERE insured_id <> '555555555'");
+    for (size_t i = 0; i < c.numbers.size(); ++i) {
+      StoreLine(c.numbers[i], QString::number(i + 1), QString::number(i + 1));
+    }
+    Open();
+    dialogs_.searches.push_back({QString::number(c.deleted), u"AMA"_s});
+    form_->SeekCmd_Click();
+    dialogs_.answers = {true};
+    form_->DeleteCmd_Click();
+    Lines left;
+    for (const auto& [row_num, id] : c.left) {
+      left.emplace_back(row_num, QString::number(id), QString::number(id));
+    }
+    EXPECT_EQ(Stored(), left);
+    EXPECT_EQ(Mode(), u"browse"_s);
+    EXPECT_EQ(form_->Text(u"Text19"_s), std::get<1>(left.front()));  // first in order
+    EXPECT_FALSE(dialogs_.busy);
+  }
   EXPECT_EQ(dialogs_.questions.back().text, kDeleteQuestion);
   EXPECT_EQ(dialogs_.questions.back().title, kDeleteTitle);
   EXPECT_EQ(dialogs_.last_style, AskStyle::Question);
-  EXPECT_EQ(Stored(), GetParam().left);
-  EXPECT_EQ(Mode(), u"browse"_s);
-  EXPECT_EQ(form_->Text(u"Text19"_s), std::get<1>(GetParam().left.front()));  // first in order
-  EXPECT_FALSE(dialogs_.busy);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Numberings, DeleteLineTest,
-    ::testing::Values(
-        DeleteCase{
-            {{1, "1"}, {2, "2"}, {3, "3"}, {4, "4"}, {5, "5"}},
-            "3",
-            {{1, u"1"_s, u"1"_s}, {2, u"2"_s, u"2"_s}, {3, u"4"_s, u"4"_s}, {4, u"5"_s, u"5"_s}}},
-        DeleteCase{{{1, "1"}, {2, "2"}}, "2", {{1, u"1"_s, u"1"_s}}},
-        // Numberings made elsewhere: a gap, and a number held twice.
-        DeleteCase{{{1, "1"}, {2, "2"}, {4, "4"}}, "1", {{1, u"2"_s, u"2"_s}, {3, u"4"_s, u"4"_s}}},
-        DeleteCase{{{1, "1"}, {2, "2"}, {2, "3"}, {3, "4"}},
-                   "2",
-                   {{1, u"1"_s, u"1"_s}, {2, u"3"_s, u"3"_s}, {3, u"4"_s, u"4"_s}}}));
-
-TEST_F(OvtForm2Test, DeletingTheOnlyLineGoesToNewModeAndNoKeepsIt) {
-  StoreLine(1, u"100000000"_s, u"Α"_s);
-  Open();
-  form_->DeleteCmd_Click();  // answered No
-  EXPECT_EQ(Stored().size(), 1u);
-  dialogs_.answers = {true};
-  form_->DeleteCmd_Click();
-  EXPECT_EQ(Stored(), Lines{});
-  EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_FALSE(form_->HasLines());
-  EXPECT_EQ(form_->Text(u"Text19"_s), u""_s);
-  EXPECT_EQ(form_->FocusedField(), u"Text18_1"_s);
-}
-
-TEST_F(OvtForm2Test, ADeleteThatFailsLeavesTheDeclarationAsItWas) {
+// A delete that fails leaves the declaration as it was; a line deleted
+// behind the screen's back cannot be deleted again; No keeps the only line,
+// Yes deletes it and leaves the screen waiting for a new one.
+TEST_F(OvtForm2Test, DeletesThatFailAndTheLastDelete) {
   StoreLine(1, u"100000000"_s, u"Α"_s);
   StoreLine(2, u"200000000"_s, u"Β"_s);
   Open();
@@ -237,86 +236,60 @@ TEST_F(OvtForm2Test, ADeleteThatFailsLeavesTheDeclarationAsItWas) {
   EXPECT_EQ(Stored(), before);
   EXPECT_FALSE(db_.InTransaction());
 
-  // A line deleted behind the screen's back cannot be deleted again.
   db_.Exec("DELETE FROM QOR_EMPLOYEES WHERE row_num = 1");
   dialogs_.answers = {true};
   form_->DeleteCmd_Click();
   EXPECT_EQ(dialogs_.LastMessage(), kCannotDelete);
   EXPECT_EQ(Stored(), (Lines{{2, u"200000000"_s, u"Β"_s}}));
   EXPECT_FALSE(dialogs_.busy);
+
+  Open();
+  form_->DeleteCmd_Click();  // answered No
+  EXPECT_EQ(Stored().size(), 1u);
+  dialogs_.answers = {true};
+  form_->DeleteCmd_Click();
+  EXPECT_EQ(Stored(), Lines{});
+  EXPECT_EQ(Mode(), u"new"_s);
+  EXPECT_FALSE(form_->HasLines());
+  EXPECT_EQ(form_->Text(u"Text19"_s), u""_s);
+  EXPECT_EQ(form_->FocusedField(), u"Text18_1"_s);
 }
 
-struct SeekCase {
-  SearchAnswer answer;
-  QString shown;      // register number shown afterwards
-  QString not_found;  // the message, empty when found
-};
-
-class SeekLineTest : public OvtForm2Test, public ::testing::WithParamInterface<SeekCase> {};
-
-TEST_P(SeekLineTest, FindsTheFirstLineInReadingOrder) {
+// A find starts from the first line in reading order; one that finds nothing
+// says so and stays on the line shown.
+TEST_F(OvtForm2Test, SeekFindsTheFirstLineInReadingOrder) {
   StoreLine(1, u"300000000"_s, u"ΠΑΠΑΣ"_s);
   StoreLine(2, u"200000000"_s, u"ΠΑΠΑΔΑΚΗΣ"_s);
   StoreLine(3, u"400000000"_s, u"100%_ΠΑΠ"_s);
   StoreLine(4, u"100000000"_s, u"ΑΛΦΑ"_s);
-  Open();
-  form_->Nextcmd_Click();  // shows 200000000
-  dialogs_.searches.push_back(GetParam().answer);
-  form_->SeekCmd_Click();
-  EXPECT_EQ(form_->Text(u"Text19"_s), GetParam().shown);
-  EXPECT_EQ(dialogs_.LastMessage(), GetParam().not_found);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, SeekLineTest,
-    ::testing::Values(SeekCase{{u"  πάπ"_s, u"NAME"_s}, u"200000000"_s, {}},
-                      SeekCase{{u"ΠΑΠΑΣ"_s, u"NAME"_s}, u"300000000"_s, {}},
-                      SeekCase{{u"100%_"_s, u"NAME"_s}, u"400000000"_s, {}},
-                      SeekCase{{u"%"_s, u"NAME"_s},
-                               u"200000000"_s,
-                               kPersonNotFoundStart + u"%"_s + kPersonNotFoundEnd},
-                      SeekCase{{u"ΠΑΠ*"_s, u"NAME"_s},
-                               u"200000000"_s,
-                               kPersonNotFoundStart + u"ΠΑΠ*"_s + kPersonNotFoundEnd},
-                      SeekCase{{u"300000000"_s, u"AMA"_s}, u"300000000"_s, {}},
-                      SeekCase{{u"30000000"_s, u"AMA"_s}, u"200000000"_s, kInsuredIdNotFound},
-                      SeekCase{{}, u"200000000"_s, {}}));
-
-TEST_F(OvtForm2Test, BackClosesWithoutAskingAndTheCloseBoxAsks) {
-  Open();
-  EXPECT_FALSE(form_->QueryClose());  // answered No
-  EXPECT_EQ(dialogs_.questions.back().text, kCloseQuestion);
-  EXPECT_EQ(dialogs_.questions.back().title, kHeading);
-  dialogs_.answers = {true};
-  EXPECT_TRUE(form_->QueryClose());
-  EXPECT_EQ(screens_.quit_status, 0);
-  form_->BackCmd_Click();
-  EXPECT_EQ(screens_.shown, QStringList{u"header common"_s});
-  EXPECT_TRUE(form_->QueryClose());
-  EXPECT_EQ(dialogs_.questions.size(), 2u);
-}
-
-// A wrong check digit is a question, not a refusal: No keeps the line out of
-// the store with the number selected, Yes stores it as typed.
-TEST_F(OvtForm2Test, AWrongCheckDigitIsStoredOnlyWhenTheUserSaysSo) {
-  Open();
-  TypeValidLine();
-  form_->Type(u"Text20"_s, u"12345678901"_s);  // AMKA, Luhn digit wrong
-  form_->Type(u"Text26"_s, u"123456789"_s);    // tax number, digit wrong
-  form_->OkCmd_Click();
-  ASSERT_EQ(dialogs_.questions.size(), 1u);
-  EXPECT_TRUE(dialogs_.questions[0].text.contains(u"'12345678901'"_s));
-  EXPECT_EQ(dialogs_.last_style, AskStyle::Question);
-  EXPECT_EQ(form_->FocusedField(), u"Text20"_s);
-  EXPECT_EQ(form_->SelectionOf(u"Text20"_s)->length, 11);
-  EXPECT_EQ(Stored(), Lines{});
-
-  dialogs_.answers = {true, true};
-  form_->OkCmd_Click();
-  EXPECT_EQ(dialogs_.questions.size(), 3u);
-  EXPECT_TRUE(dialogs_.questions[2].text.contains(u"'123456789'"_s));
-  EXPECT_EQ(dialogs_.LastMessage(), kInsertDone);
-  EXPECT_EQ(Stored().size(), 1u);
+  const auto person = [](const QString& text) {
+    return kPersonNotFoundStart + text + kPersonNotFoundEnd;
+  };
+  const QString ama = u"AMA"_s, name = u"NAME"_s;
+  // clang-format off
+  const struct {
+    SearchAnswer answer;
+    const char* shown;  // the register number
+    QString told;
+  } cases[] = {
+      {{u"  πάπ"_s, name}, "200000000", {}}, {{u"ΠΑΠΑΣ"_s, name}, "300000000", {}},
+      {{u"100%_"_s, name}, "400000000", {}}, {{u"%"_s, name}, "200000000", person(u"%"_s)},
+      {{u"ΠΑΠ*"_s, name}, "200000000", person(u"ΠΑΠ*"_s)}, {{u"300000000"_s, ama}, "300000000", {}},
+      {{u"30000000"_s, ama}, "200000000", kInsuredIdNotFound}, {{}, "200000000", {}}};
+  // clang-format on
+  for (const auto& [answer, shown, told] : cases) {
+    Open();
+    form_->Nextcmd_Click();  // shows 200000000
+    dialogs_.messages.clear();
+    dialogs_.searches.push_back(answer);
+    form_->SeekCmd_Click();
+    EXPECT_EQ(form_->Text(u"Text19"_s), QString::fromLatin1(shown)) << answer.text.toStdString();
+    EXPECT_EQ(dialogs_.LastMessage(), told);
+    if (!told.isEmpty()) {  // still on the line shown before
+      form_->Nextcmd_Click();
+      EXPECT_EQ(form_->Text(u"Text19"_s), u"300000000"_s);
+    }
+  }
 }
 
 }  // namespace

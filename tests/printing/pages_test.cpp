@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "printing/printout.h"
 #include "printing/texts.h"
 #include "support/fakes.h"
@@ -18,18 +20,23 @@ using testing::TempStore;
 
 QString B(int count) { return QString(count, u' '); }
 
-// Only the given columns set, every other one Null.
+// The row with the given columns set.
 template <class Row>
-Row With(int row_num, std::initializer_list<std::pair<const char*, QString>> values) {
-  Row row;
-  row.id = 1;
-  if constexpr (LineRow<Row>) row.row_num = row_num;
+Row Set(Row row, std::initializer_list<std::pair<const char*, Text>> values) {
   ForEachText(row, [&](const char* column, Text& value) {
     for (const auto& [name, text] : values) {
       if (std::string_view(name) == column) value = text;
     }
   });
   return row;
+}
+// Only the given columns set, every other one Null.
+template <class Row>
+Row With(int row_num, std::initializer_list<std::pair<const char*, Text>> values) {
+  Row row;
+  row.id = 1;
+  if constexpr (LineRow<Row>) row.row_num = row_num;
+  return Set(row, values);
 }
 
 QStringList Closing() {
@@ -38,47 +45,29 @@ QStringList Closing() {
 }
 
 QStringList Stop(const QString& date) {
-  return {pt::kStopStatement1 + date + u","_s,
-          pt::kStopStatement2,
-          pt::kStopStatement3,
-          pt::kStopStatement4,
-          u""_s,
-          u""_s,
-          pt::kDates1,
-          pt::kDates2,
-          u""_s,
-          pt::kSigners2,
-          u""_s,
-          u""_s,
-          u""_s,
-          u""_s,
-          u""_s,
-          u""_s,
-          pt::kStamps};
+  // clang-format off
+  return {pt::kStopStatement1 + date + u","_s, pt::kStopStatement2, pt::kStopStatement3,
+          pt::kStopStatement4, u""_s, u""_s, pt::kDates1, pt::kDates2, u""_s, pt::kSigners2,
+          u""_s, u""_s, u""_s, u""_s, u""_s, u""_s, pt::kStamps};
+  // clang-format on
+}
+
+// The pages as the printer received them, split into lines.
+std::vector<QStringList> PagesOf(TempStore& store, FakeDialogs& dialogs, Kind kind,
+                                 Printout printout) {
+  CapturePrinter printer;
+  EXPECT_TRUE(RunPrintout(store.vars, dialogs, kind, printout, printer))
+      << dialogs.LastMessage().toStdString();
+  std::vector<QStringList> pages;
+  for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
+  return pages;
 }
 
 class PagesTest : public ::testing::Test {
  protected:
   PagesTest() { store_.vars.DeclarationId = 1; }
-  // The pages as the printer received them, split into lines.
   std::vector<QStringList> Print(Kind kind, Printout printout) {
-    CapturePrinter printer;
-    EXPECT_TRUE(RunPrintout(store_.vars, dialogs_, kind, printout, printer))
-        << dialogs_.LastMessage().toStdString();
-    std::vector<QStringList> pages;
-    for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
-    return pages;
-  }
-  void AddCommonLines(int count, const QString& type) {
-    InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", type},
-                                         {"emp_employer_id", "1"},
-                                         {"taxation_number", "2"},
-                                         {"stop_date", "31/03/2026"}}));
-    for (int n = 1; n <= count; ++n) {
-      InsertRow(db_,
-                With<EmployeeRow>(
-                    n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
-    }
+    return PagesOf(store_, dialogs_, kind, printout);
   }
 
   TempStore store_;
@@ -86,9 +75,9 @@ class PagesTest : public ::testing::Test {
   FakeDialogs dialogs_;
 };
 
+// clang-format off
 TEST_F(PagesTest, CommonSummaryOfOneMonth) {
   InsertRow(db_, With<EmployerRow>(0, {
-                                          // clang-format off
       {"declaration_type", "01"}, {"declaration_descr", "ΚΑΝΟΝΙΚΗ "},
       {"orgbra_branch_code", " 12 "}, {"orgbra_branch_descr", "ΑΘΗΝΩΝ"}, {"employer_name", QString(50, u'Ω')},
       {"emp_first_name", "ΒΗΤΑΣ"}, {"emp_father_name", "ΓΑΜΑ"}, {"emp_employer_id", "0123456 "},
@@ -96,41 +85,27 @@ TEST_F(PagesTest, CommonSummaryOfOneMonth) {
       {"zip_code", "10562"}, {"city", "ΑΘΗΝΑ"}, {"from_month", "01"}, {"from_year", "2026"},
       {"to_month", "01"}, {"to_year", "2026"}, {"saldate1", "01/2026"}, {"saldate2", " "},
       {"total_days1", "25"}, {"total_salaries1", "1234,5"}, {"total_days", "25"},
-      {"total_salaries", "1234567,891"}, {"total_contributions", "-3"}
-                                          // clang-format on
-                                      }));
-  const QStringList expected =
-      QStringList{
-          // clang-format off
+      {"total_salaries", "1234567,891"}, {"total_contributions", "-3"}}));
+  const QStringList expected = QStringList{
       u""_s, u""_s, u""_s, u""_s, pt::kSumTitle, pt::kSumSubtitle, u""_s, u""_s,
       pt::kType + u"01 ΚΑΝΟΝΙΚΗ "_s, u""_s, pt::kBranch1, pt::kBranch2 + u"12 ΑΘΗΝΩΝ"_s, u""_s,
       pt::kEmployer + QString(50, u'Ω') + u" ΒΗΤΑΣ "_s, B(27) + u"ΓΑΜΑ"_s, u""_s, pt::kSumAme + u"0123456 "_s,
       pt::kSumAfm + u"094000000"_s, u""_s, pt::kAddress + u"ΣΤΑΔΙΟΥ 5"_s, B(27) + u"10562 ΑΘΗΝΑ"_s,
       u""_s, pt::kFrom + u"01/2026"_s, pt::kTo + u"01/2026"_s, u""_s, pt::kSumColumns1,
       pt::kSumColumns2, u""_s,
-      pt::kPerMonth + u"01/2026"_s + B(11) + u"25"_s + B(13) + u"1.234,50"_s + B(17) + u"0,00"_s,
-      u""_s,
-      B(18) + pt::kTotals + B(11) + u"25"_s + B(9) + u"1.234.567,89"_s + B(16) + u"-3,00"_s
-          // clang-format on
-      } +
-      Closing();
+      pt::kPerMonth + u"01/2026"_s + B(11) + u"25"_s + B(13) + u"1.234,50"_s + B(17) + u"0,00"_s, u""_s,
+      B(18) + pt::kTotals + B(11) + u"25"_s + B(9) + u"1.234.567,89"_s + B(16) + u"-3,00"_s} + Closing();
   EXPECT_EQ(Print(Kind::Common, Printout::kSummary), std::vector{expected});
 }
 
 TEST_F(PagesTest, ConstructionSummary) {
-  const QString works = QString(51, u'Ε') + u' ' + QString(18, u'Ζ');
   InsertRow(db_, With<ConEmployerRow>(0, {
-                                             // clang-format off
       {"declare_type", "03"}, {"ovt_code", "7"}, {"ovt_name", "ΠΕΙΡΑΙΑ"}, {"emp_name", "ΑΛΦΑ"},
-      {"emp_address", "ΟΔΟΣ"}, {"emp_num", "1"}, {"emp_zip_code", "18535"},
-      {"emp_city", "ΠΕΙΡΑΙΑΣ"}, {"con_descr", works}, {"ame", "11"}, {"amoe", "22"}, {"afm", "33"},
+      {"emp_address", "ΟΔΟΣ"}, {"emp_num", "1"}, {"emp_zip_code", "18535"}, {"emp_city", "ΠΕΙΡΑΙΑΣ"},
+      {"con_descr", QString(51, u'Ε') + u' ' + QString(18, u'Ζ')}, {"ame", "11"}, {"amoe", "22"}, {"afm", "33"},
       {"con_address", "ΛΙΜΑΝΙ"}, {"con_zip_code", "18536"}, {"from_month", "05"},
-      {"from_year", "2026"}, {"sum_days", " 40"}, {"sum_salaries", "1234,5"}
-                                             // clang-format on
-                                         }));
-  const QStringList expected =
-      QStringList{
-          // clang-format off
+      {"from_year", "2026"}, {"sum_days", " 40"}, {"sum_salaries", "1234,5"}}));
+  const QStringList expected = QStringList{
       u""_s, u""_s, u""_s, u""_s, pt::kConSumTitle, pt::kConSumSubtitle, u""_s, u""_s,
       pt::kType + u"03 "_s + pt::kResubmission, u""_s, pt::kBranch1,
       pt::kBranch2 + u"007 ΠΕΙΡΑΙΑ"_s, u""_s, pt::kEmployer + u"ΑΛΦΑ"_s + B(2), u""_s,
@@ -139,12 +114,10 @@ TEST_F(PagesTest, ConstructionSummary) {
       pt::kSumAme + u"11"_s + pt::kSumAmoe + u"22"_s + pt::kSumAfmAfterAmoe + u"33"_s, u""_s,
       pt::kSite + u"ΛΙΜΑΝΙ "_s, B(27) + u"18536 "_s, u""_s, pt::kSumMonth + u"05/2026"_s, u""_s,
       pt::kSumDays1, pt::kSumDays2 + u" 40"_s, u""_s, pt::kSumTotal, pt::kSalaries + u"1.234,50"_s,
-      u""_s, pt::kSumTotal, pt::kContributions + u"0,00"_s
-          // clang-format on
-      } +
-      Closing();
+      u""_s, pt::kSumTotal, pt::kContributions + u"0,00"_s} + Closing();
   EXPECT_EQ(Print(Kind::Construction, Printout::kSummary), std::vector{expected});
 }
+// clang-format on
 
 // The value a sample row holds in that column ("<column> <id>.<row>").
 QString V(const char* column, const char* row = "1.1") {
@@ -159,35 +132,21 @@ QStringList Labelled(const std::vector<std::pair<QString, QString>>& rows) {
 
 QStringList FourEmpty() { return {u""_s, u""_s, u""_s, u""_s}; }
 
+// clang-format off
 TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
-  EmployerRow header = testing::Sample<EmployerRow>(1);
-  header.declaration_type = u"02"_s;
-  header.declaration_descr = u"ΕΚΤΑΚΤΗ "_s;
-  header.from_month = u"01 "_s;
-  header.saldate1 = u"01/2026"_s;
-  header.saldate2 = u"02/2026"_s;
-  header.saldate3 = u"03/2026"_s;
-  header.total_days1 = u"1"_s;
-  header.total_days2 = std::nullopt;
-  header.total_days3 = u"22"_s;
-  header.total_days = u"1234"_s;
-  header.total_salaries1 = std::nullopt;
-  header.total_salaries2 = u"1234,5"_s;
-  header.total_salaries3 = u"0"_s;
-  header.total_salaries = u"12345678901234,5"_s;  // longer than its room: written whole
-  header.total_contributions1 = header.total_contributions2 = header.total_contributions3 = u"7"_s;
-  header.total_contributions = u"21"_s;
-  InsertRow(db_, header);
-  EmployeeRow line = testing::Sample<EmployeeRow>(1, 1);
-  line.full_day = u"1,0"_s;
-  line.all_days = u"2"_s;
-  line.daily_wages = u"1234,5"_s;
-  line.payed_contr = std::nullopt;
-  InsertRow(db_, line);
+  InsertRow(db_, Set(testing::Sample<EmployerRow>(1), {
+      {"declaration_type", u"02"_s}, {"declaration_descr", u"ΕΚΤΑΚΤΗ "_s}, {"from_month", u"01 "_s},
+      {"saldate1", u"01/2026"_s}, {"saldate2", u"02/2026"_s}, {"saldate3", u"03/2026"_s},
+      {"total_days1", u"1"_s}, {"total_days2", {}}, {"total_days3", u"22"_s}, {"total_days", u"1234"_s},
+      {"total_salaries1", {}}, {"total_salaries2", u"1234,5"_s}, {"total_salaries3", u"0"_s},
+      {"total_salaries", u"12345678901234,5"_s},  // longer than its room: written whole
+      {"total_contributions1", u"7"_s}, {"total_contributions2", u"7"_s},
+      {"total_contributions3", u"7"_s}, {"total_contributions", u"21"_s}}));
+  InsertRow(db_, Set(testing::Sample<EmployeeRow>(1, 1), {
+      {"full_day", u"1,0"_s}, {"all_days", u"2"_s}, {"daily_wages", u"1234,5"_s}, {"payed_contr", {}}}));
   for (const char* id : {"x", "y"}) {
-    EmployeeRow next = testing::SampleLine<EmployeeRow>(1, 2, QString::fromLatin1(id));
-    next.full_day = next.all_days = u"0"_s;
-    InsertRow(db_, next);
+    InsertRow(db_, Set(testing::Sample<EmployeeRow>(1, 2), {
+        {"insured_id", QString::fromLatin1(id)}, {"full_day", u"0"_s}, {"all_days", u"0"_s}}));
   }
 
   const std::vector<QStringList> pages = Print(Kind::Common, Printout::kDeclaration);
@@ -195,10 +154,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
   const QString from = u"01 /"_s + V("from_year", "1.0");
   const QString to = V("to_month", "1.0") + u'/' + V("to_year", "1.0");
   const QString ame = V("emp_employer_id", "1.0"), afm = V("taxation_number", "1.0");
-  const QStringList page1 =
-      FourEmpty() +
-      QStringList{
-          // clang-format off
+  const QStringList page1 = FourEmpty() + QStringList{
       pt::kPage1 + u"1"_s + pt::kOf + u"3"_s, u""_s, pt::kType + u"02 ΕΚΤΑΚΤΗ "_s, u""_s,
       pt::kBranch + V("orgbra_branch_code", "1.0") + u' ' + V("orgbra_branch_descr", "1.0"),
       pt::kEmployer + V("employer_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -210,11 +166,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       pt::kDaysPage1 + B(7) + u"1"_s + B(9) + B(7) + u"0"_s + B(9) + B(6) + u"22"_s + B(9) + B(4) + u"1234"_s,
       pt::kSalaries + B(12) + u"0,00 "_s + B(8) + u"1.234,50 "_s + B(12) + u"0,00 "_s + u"12.345.678.901.234,50"_s,
       pt::kPaid + B(12) + u"7,00 "_s + B(12) + u"7,00 "_s + B(12) + u"7,00 "_s + B(11) + u"21,00"_s,
-      u""_s
-          // clang-format on
-      } +
-      Labelled({
-          // clang-format off
+      u""_s} + Labelled({
       {pt::kBranchKad, V("emp_branch_id") + u" / "_s + V("kad")},
       {pt::kInsuredId, V("insured_id")}, {pt::kAmka, V("amka")}, {pt::kSurname, V("surname")},
       {pt::kName, V("name")}, {pt::kFather, V("father_name")}, {pt::kMother, V("mother_name")},
@@ -228,49 +180,28 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       {pt::kSalary, V("salary")}, {pt::kInsuredContr, V("insured_contr")},
       {pt::kEmployerContr, V("employer_contr")}, {pt::kTotalContr, V("total_contr")},
       {pt::kSubsidy, V("subsidy_amount")}, {pt::kSubsidyPercent, V("emp_subsidy_percent")},
-      {pt::kSubsidyAmount, V("emp_subsidy_amount")}, {pt::kPayedContr, u"0,00"_s}
-          // clang-format on
-      });
+      {pt::kSubsidyAmount, V("emp_subsidy_amount")}, {pt::kPayedContr, u"0,00"_s}});
   EXPECT_EQ(pages[0], page1);
-  const QStringList header2 =
-      FourEmpty() + QStringList{pt::kPageN + u"2"_s + pt::kOf + u"3"_s, u""_s,
-                                pt::kPageAme + ame + pt::kPageAfm + afm,
-                                pt::kFrom + from + pt::kPageTo + to, u""_s};
-  EXPECT_EQ(pages[1].mid(0, 9), header2);
-  const QStringList last = FourEmpty() +
-                           QStringList{
-                               // clang-format off
+  EXPECT_EQ(pages[1].mid(0, 9), (FourEmpty() + QStringList{
+      pt::kPageN + u"2"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kPageAfm + afm,
+      pt::kFrom + from + pt::kPageTo + to, u""_s}));
+  EXPECT_EQ(pages[2], (FourEmpty() + QStringList{
       pt::kLastPage + u"3"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kLastAfm + afm,
       pt::kFrom + from + pt::kPageTo + to, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s,
-      pt::kCessation, pt::kCessation2, u""_s
-                               // clang-format on
-                           } +
-                           Stop(V("stop_date", "1.0"));
-  EXPECT_EQ(pages[2], last);
+      pt::kCessation, pt::kCessation2, u""_s} + Stop(V("stop_date", "1.0"))));
 }
 
 TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
-  ConEmployerRow header = testing::Sample<ConEmployerRow>(1);
-  header.declare_type = u" 02"_s;
-  header.ovt_code = u"45"_s;
-  header.sum_salaries = u"1234,5"_s;
-  header.sum_days = u"31"_s;
-  header.sum_contr = std::nullopt;
-  InsertRow(db_, header);
-  ConEmployeeRow line = testing::Sample<ConEmployeeRow>(1, 1);
-  line.married_status = u"1"_s;
-  line.daily_wages = u"1234,5"_s;
-  InsertRow(db_, line);
+  InsertRow(db_, Set(testing::Sample<ConEmployerRow>(1), {
+      {"declare_type", u" 02"_s}, {"ovt_code", u"45"_s}, {"sum_salaries", u"1234,5"_s},
+      {"sum_days", u"31"_s}, {"sum_contr", {}}}));
+  InsertRow(db_, Set(testing::Sample<ConEmployeeRow>(1, 1), {
+      {"married_status", u"1"_s}, {"daily_wages", u"1234,5"_s}}));
 
   const std::vector<QStringList> pages = Print(Kind::Construction, Printout::kDeclaration);
   ASSERT_EQ(pages.size(), 2u);
   const QString month = V("from_month", "1.0") + u'/' + V("from_year", "1.0");
-  const QString identity = pt::kConPageAme + V("ame", "1.0") + pt::kConPageAmoe + V("amoe", "1.0") +
-                           pt::kConPageAfm + V("afm", "1.0");
-  const QStringList page1 =
-      FourEmpty() +
-      QStringList{
-          // clang-format off
+  const QStringList page1 = FourEmpty() + QStringList{
       pt::kConPage1 + u"1"_s + pt::kOf + u"2"_s, u""_s, pt::kType + u"02 "_s + pt::kExtraordinary,
       u""_s, pt::kBranch + u"045 "_s + V("ovt_name", "1.0"),
       pt::kEmployer + V("emp_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -282,11 +213,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
       pt::kSumAfm + V("afm", "1.0") + B(8) + V("con_zip_code", "1.0") + u' ' + V("con_city", "1.0"),
       pt::kConMonth + month, u""_s, pt::kConTotals,
       pt::kSalaries + B(8) + u"1.234,50"_s + pt::kConDays + B(6) + u"31"_s,
-      pt::kContributions + B(12) + u"0,00"_s, u""_s
-          // clang-format on
-      } +
-      Labelled({
-          // clang-format off
+      pt::kContributions + B(12) + u"0,00"_s, u""_s} + Labelled({
       {pt::kConBranch1, u""_s}, {pt::kConBranch2, V("ovt_code")},
       {pt::kInsuredId, V("insured_id")}, {pt::kConAmka, V("amka")}, {pt::kSurname, V("surname")},
       {pt::kName, V("name")}, {pt::kFather, V("father_name")}, {pt::kMother, V("mother_name")},
@@ -298,159 +225,138 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
       {pt::kDailyWage, u"1.234,50"_s}, {pt::kSalary, V("salary")}, {pt::kPhase1, u""_s},
       {pt::kPhase2, V("phase_code")}, {pt::kCostingDays, V("costing_days")},
       {pt::kInsuredContr, V("insured_contr")}, {pt::kEmployerContr, V("employer_contr")},
-      {pt::kTotalContr, V("total_contr")}
-          // clang-format on
-      }) +
-      QStringList{u""_s};
+      {pt::kTotalContr, V("total_contr")}}) + QStringList{u""_s};
   EXPECT_EQ(pages[0], page1);
-  const QStringList last = FourEmpty() +
-                           QStringList{
-                               // clang-format off
-      pt::kLastPage + u"2"_s + pt::kOf + u"2"_s, u""_s, identity, pt::kConPageMonth + month, u""_s,
-      u""_s, u""_s, u""_s, u""_s, pt::kConCessation, pt::kCessation2, u""_s
-                               // clang-format on
-                           } +
-                           Stop(V("stop_date", "1.0"));
-  EXPECT_EQ(pages[1], last);
+  EXPECT_EQ(pages[1], (FourEmpty() + QStringList{
+      pt::kLastPage + u"2"_s + pt::kOf + u"2"_s, u""_s,
+      pt::kConPageAme + V("ame", "1.0") + pt::kConPageAmoe + V("amoe", "1.0") + pt::kConPageAfm + V("afm", "1.0"),
+      pt::kConPageMonth + month, u""_s, u""_s, u""_s, u""_s, u""_s, pt::kConCessation, pt::kCessation2,
+      u""_s} + Stop(V("stop_date", "1.0"))));
 }
+// clang-format on
 
-struct Paging {
-  Kind kind;
-  int lines;
-  const char* type;
-  std::vector<int> blocks;  // on each page; -1 for the statement page
-};
-
-class PagingTest : public PagesTest, public ::testing::WithParamInterface<Paging> {};
-
-TEST_P(PagingTest, TwoBlocksToAPageAfterTheFirst) {
-  const Paging& p = GetParam();
-  const bool common = p.kind == Kind::Common;
-  if (common) {
-    InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", p.type}}));
-  } else {
-    InsertRow(db_, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
-  }
-  for (int n = p.lines; n >= 1; --n) {  // stored against the reading order
-    const QString id = QString::number(100 + n);
+// Lines stored against the reading order, printed in it: the first page holds
+// one block, every later one two, and an extraordinary declaration ends with
+// its statement page.
+TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
+  const struct {
+    Kind kind;
+    int lines;
+    const char* type;
+    std::vector<int> blocks;  // on each page; -1 for the statement page
+  } cases[] = {
+      {Kind::Common, 0, "01", {0}},          {Kind::Common, 1, "01", {1}},
+      {Kind::Common, 2, "03", {1, 1}},       {Kind::Common, 3, "", {1, 2}},
+      {Kind::Common, 4, "01", {1, 2, 1}},    {Kind::Common, 0, "02", {0, -1}},
+      {Kind::Common, 3, "02", {1, 2, -1}},   {Kind::Construction, 0, "01", {0}},
+      {Kind::Construction, 3, "01", {1, 2}}, {Kind::Construction, 6, "02", {1, 2, 2, 1, -1}},
+  };
+  for (const auto& p : cases) {
+    SCOPED_TRACE(::testing::Message() << p.lines << p.type);
+    const bool common = p.kind == Kind::Common;
+    TempStore store;
+    FakeDialogs dialogs;
+    Database& db = store.Open();
+    store.vars.DeclarationId = 1;
     if (common) {
-      InsertRow(db_,
-                With<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}));
+      InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}));
     } else {
-      InsertRow(db_, With<ConEmployeeRow>(n, {{"insured_id", id}}));
+      InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
     }
-  }
-  const std::vector<QStringList> pages = Print(p.kind, Printout::kDeclaration);
-  ASSERT_EQ(pages.size(), p.blocks.size());
-  const QString count = pt::kOf + QString::number(pages.size());
-  const int first = common ? 21 : 24, later = 9, block = common ? 31 : 29;
-  QStringList ids;
-  for (size_t k = 0; k < pages.size(); ++k) {
-    SCOPED_TRACE(k + 1);
-    const QStringList& page = pages[k];
-    EXPECT_TRUE(page[4].endsWith(QString::number(k + 1) + count)) << page[4].toStdString();
-    if (p.blocks[k] < 0) {
-      EXPECT_EQ(page.size(), common ? 34 : 33);
-      EXPECT_EQ(page.filter(pt::kStopStatement1).size(), 1);
-      continue;
-    }
-    int blocks = 0;
-    for (const QString& line : page) {
-      if (line.startsWith(pt::kInsuredId)) {
-        ++blocks;
-        ids << line.mid(pt::kInsuredId.size());
+    for (int n = p.lines; n >= 1; --n) {
+      const QString id = QString::number(100 + n);
+      if (common) {
+        InsertRow(db,
+                  With<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}));
+      } else {
+        InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
       }
     }
-    EXPECT_EQ(blocks, p.blocks[k]);
-    // Page 1 of the common kind ends with its block, without empty lines.
-    const int gaps = k == 0 && common ? -2 * blocks : 0;
-    EXPECT_EQ(page.size(), (k == 0 ? first : later) + blocks * block + gaps);
+    const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
+    ASSERT_EQ(pages.size(), p.blocks.size());
+    const QString count = pt::kOf + QString::number(pages.size());
+    const int first = common ? 21 : 24, later = 9, block = common ? 31 : 29;
+    QStringList ids;
+    for (size_t k = 0; k < pages.size(); ++k) {
+      const QStringList& page = pages[k];
+      EXPECT_TRUE(page[4].endsWith(QString::number(k + 1) + count)) << page[4].toStdString();
+      if (p.blocks[k] < 0) {
+        EXPECT_EQ(page.size(), common ? 34 : 33);
+        EXPECT_EQ(page.filter(pt::kStopStatement1).size(), 1);
+        continue;
+      }
+      QStringList blocks;  // the register number of each block
+      for (const QString& line : page) {
+        if (line.startsWith(pt::kInsuredId)) blocks << line.mid(pt::kInsuredId.size());
+      }
+      ids << blocks;
+      EXPECT_EQ(blocks.size(), p.blocks[k]) << k;
+      // Page 1 of the common kind ends with its block, without empty lines.
+      const int gaps = k == 0 && common ? -2 * p.blocks[k] : 0;
+      EXPECT_EQ(page.size(), (k == 0 ? first : later) + p.blocks[k] * block + gaps) << k;
+    }
+    QStringList sorted = ids;
+    sorted.sort();
+    EXPECT_EQ(ids, sorted);
+    EXPECT_EQ(ids.size(), p.lines);
   }
-  QStringList sorted = ids;
-  sorted.sort();
-  EXPECT_EQ(ids, sorted);
-  EXPECT_EQ(ids.size(), p.lines);
 }
 
-INSTANTIATE_TEST_SUITE_P(BothKinds, PagingTest,
-                         ::testing::Values(Paging{Kind::Common, 0, "01", {0}},
-                                           Paging{Kind::Common, 1, "01", {1}},
-                                           Paging{Kind::Common, 2, "03", {1, 1}},
-                                           Paging{Kind::Common, 3, "", {1, 2}},
-                                           Paging{Kind::Common, 4, "01", {1, 2, 1}},
-                                           Paging{Kind::Common, 0, "02", {0, -1}},
-                                           Paging{Kind::Common, 3, "02", {1, 2, -1}},
-                                           Paging{Kind::Construction, 0, "01", {0}},
-                                           Paging{Kind::Construction, 3, "01", {1, 2}},
-                                           Paging{Kind::Construction, 6, "02", {1, 2, 2, 1, -1}}));
-
-struct Fault {
-  const char* name;
-  Printout printout;
-  std::function<void(Database&)> store;
-  int printer_fails_at;
-  QString code_and_description;
-  int pages_printed;
-};
-
-class FaultTest : public PagesTest, public ::testing::WithParamInterface<Fault> {};
-
-TEST_P(FaultTest, EndsThePrintoutWithTheProblemMessage) {
-  const Fault& f = GetParam();
-  f.store(db_);
-  CapturePrinter printer;
-  printer.fails_at = f.printer_fails_at;
-  EXPECT_FALSE(RunPrintout(store_.vars, dialogs_, Kind::Common, f.printout, printer));
-  ASSERT_EQ(dialogs_.messages.size(), 1u);
-  const testing::ShownMessage& shown = dialogs_.messages[0];
-  EXPECT_EQ(shown.text, pt::kProblem + u"\r\nΚωδικός λάθους: "_s + f.code_and_description);
-  EXPECT_EQ(shown.title, u"Ξ.Ρ.Φ."_s);
-  EXPECT_FALSE(shown.busy);
-  EXPECT_EQ(dialogs_.busy_calls, (std::vector{true, false}));
-  EXPECT_EQ(printer.calls.back(), u"kill"_s);
-  EXPECT_EQ(printer.calls.count(u"end"_s), 0);
-  EXPECT_EQ(printer.pages.size(), size_t(f.pages_printed));
+// A store fault or a printer failure ends the printout: the problem told with
+// its number and text once the pointer is back, the document killed.
+TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
+  const auto header = [](Database& db, bool tax_number) {
+    InsertRow(db, With<EmployerRow>(0, {{"declaration_type", "01"},
+                                        {"emp_employer_id", "1"},
+                                        {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
+  };
+  const auto line = [](Database& db, int n, const char* full_day) {
+    InsertRow(db, With<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
+  };
+  const QString description = u"\r\nΠεριγραφή λάθους: "_s;
+  // clang-format off
+  const struct {
+    Printout printout;
+    std::function<void(Database&)> store;
+    int printer_fails_at;
+    QString code_and_description;
+    int pages_printed;
+  } cases[] = {
+      {Printout::kSummary, [](Database&) {}, -1, u"0"_s + description + pt::kNoHeader, 0},
+      {Printout::kSummary, [&](Database& db) { header(db, false); }, -1,
+       u"20"_s + description + pt::kNoValue.arg(u"Α.Φ.Μ."_s), 0},
+      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, ""); },
+       -1, u"20"_s + description + pt::kNotANumber.arg(QString(), pt::kFullDay.trimmed().chopped(1), u"2"_s), 1},
+      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, "1"); },
+       3, u"28"_s + description + u"No space left on device"_s, 1},
+  };
+  // clang-format on
+  for (const auto& f : cases) {
+    SCOPED_TRACE(f.code_and_description.toStdString());
+    TempStore store;
+    FakeDialogs dialogs;
+    store.vars.DeclarationId = 1;
+    f.store(store.Open());
+    CapturePrinter printer;
+    printer.fails_at = f.printer_fails_at;
+    EXPECT_FALSE(RunPrintout(store.vars, dialogs, Kind::Common, f.printout, printer));
+    ASSERT_EQ(dialogs.messages.size(), 1u);
+    const testing::ShownMessage& shown = dialogs.messages[0];
+    EXPECT_EQ(shown.text, pt::kProblem + u"\r\nΚωδικός λάθους: "_s + f.code_and_description);
+    EXPECT_EQ(shown.title, u"Ξ.Ρ.Φ."_s);
+    EXPECT_FALSE(shown.busy);
+    EXPECT_EQ(dialogs.busy_calls, (std::vector{true, false}));
+    EXPECT_EQ(printer.calls.back(), u"kill"_s);
+    EXPECT_EQ(printer.calls.count(u"end"_s), 0);
+    EXPECT_EQ(printer.pages.size(), size_t(f.pages_printed));
+  }
 }
-
-void CommonHeader(Database& db, const char* taxation_number) {
-  InsertRow(db, With<EmployerRow>(0, {{"declaration_type", "01"},
-                                      {"emp_employer_id", "1"},
-                                      {"taxation_number", taxation_number}}));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Printouts, FaultTest,
-    ::testing::Values(
-        Fault{"NoHeader", Printout::kSummary, [](Database&) {}, -1,
-              u"0\r\nΠεριγραφή λάθους: "_s + pt::kNoHeader, 0},
-        Fault{"NullTaxNumber", Printout::kSummary,
-              [](Database& db) {
-                InsertRow(db, With<EmployerRow>(
-                                  0, {{"declaration_type", "01"}, {"emp_employer_id", "1"}}));
-              },
-              -1, u"20\r\nΠεριγραφή λάθους: "_s + pt::kNoValue.arg(u"Α.Φ.Μ."_s), 0},
-        Fault{"FullDayNotANumber", Printout::kDeclaration,
-              [](Database& db) {
-                CommonHeader(db, "2");
-                InsertRow(db, With<EmployeeRow>(1, {{"full_day", "1"}, {"all_days", "1"}}));
-                InsertRow(db, With<EmployeeRow>(2, {{"full_day", ""}, {"all_days", "1"}}));
-              },
-              -1,
-              u"20\r\nΠεριγραφή λάθους: "_s +
-                  pt::kNotANumber.arg(QString(), pt::kFullDay.trimmed().chopped(1), u"2"_s),
-              1},
-        Fault{"PrinterFailsOnTheSecondPage", Printout::kDeclaration,
-              [](Database& db) {
-                CommonHeader(db, "2");
-                for (int n = 1; n <= 2; ++n) {
-                  InsertRow(db, With<EmployeeRow>(n, {{"full_day", "1"}, {"all_days", "1"}}));
-                }
-              },
-              3, u"28\r\nΠεριγραφή λάθους: No space left on device"_s, 1}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
-  AddCommonLines(1, u"01"_s);
+  InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", "01"},
+                                       {"emp_employer_id", "1"},
+                                       {"taxation_number", "2"}}));
+  InsertRow(db_, With<EmployeeRow>(1, {{"insured_id", "1"}, {"full_day", "0"}, {"all_days", "1"}}));
   PrintDeclaration(store_.vars, dialogs_, Kind::Common);
   ASSERT_EQ(dialogs_.questions.size(), 1u);
   EXPECT_EQ(dialogs_.questions[0].text, pt::kAskAll);
