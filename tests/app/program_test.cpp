@@ -19,16 +19,12 @@
 #include "store/schema.h"
 #include "store/store_file.h"
 #include "store/store_lock.h"
+#include "support/files.h"
 
 namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-QByteArray ReadFile(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // Overwrites bytes in the middle of a store of many lines, where only a read
 // of the whole file finds them; one backup was made before.
@@ -95,7 +91,7 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     };
     const QStringList entries_before = entries();
     const QFileInfo before(store);
-    const QByteArray bytes = ReadFile(store);
+    const QByteArray bytes = testing::FileBytes(store);
     const QString expected = texts::kAppTitle + u'\t' + c.line(store);
 
     QProcess process;
@@ -123,7 +119,7 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     const QFileInfo after(store);
     EXPECT_EQ(after.isDir(), before.isDir());
     EXPECT_EQ(after.permissions(), before.permissions());
-    EXPECT_EQ(ReadFile(store), bytes);
+    EXPECT_EQ(testing::FileBytes(store), bytes);
     other_program.reset();
   }
 }

@@ -16,6 +16,7 @@
 #include "store/backups.h"
 #include "store/store_lock.h"
 #include "support/fakes.h"
+#include "support/files.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
 
@@ -24,11 +25,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace filing_texts;
-
-QByteArray Bytes(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // A common declaration 3 of two lines, submitted, and a construction
 // declaration 4 without lines or submission date. A backup of that store is
@@ -123,7 +119,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
     if (c.held) {
       ASSERT_EQ(lock.emplace(path).Take(), StoreLock::Outcome::kHeld);
     }
-    const QByteArray before = Bytes(path);
+    const QByteArray before = testing::FileBytes(path);
     QProcess process;
     process.start(QStringLiteral(VEROXIA_CLI), c.args);
     ASSERT_TRUE(process.waitForFinished(60'000));
@@ -135,7 +131,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
     EXPECT_EQ(run_err.isEmpty(), c.err.isEmpty() && c.status == 0);
     // Only a restore that went through changes the store.
     if (!c.args.contains(u"restore"_s) || c.status != 0) {
-      EXPECT_EQ(Bytes(path), before);
+      EXPECT_EQ(testing::FileBytes(path), before);
     }
     // Pages are parted by form feeds: two pages of the declaration with lines.
     if (c.args.contains(u"print"_s)) {
@@ -145,7 +141,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   // The backup made first, the one of the command, and the store replaced.
   EXPECT_EQ(ListBackups(path).size(), 3);
   EXPECT_EQ(ListBackups(path).last(), backup);
-  EXPECT_EQ(Bytes(path).size(), Bytes(backup).size());
+  EXPECT_EQ(testing::FileBytes(path).size(), testing::FileBytes(backup).size());
   EXPECT_EQ(QDir(out).entryList(QDir::Files),
             (QStringList{u"CSL01"_s, u"notes.txt"_s, u"other.mdb"_s, u"schema.mdb"_s}));
   QFile volume(out + u"/CSL01"_s);

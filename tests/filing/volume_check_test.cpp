@@ -1,4 +1,5 @@
 #include "filing/volume_check.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +17,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using enum VolumeFault;
-
-QByteArray Read(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 void Write(const QString& path, const QByteArray& bytes) {
   QFile file(path);
@@ -100,7 +96,7 @@ TEST(VolumeCheck, ForeignBytesAreThoseTheCodePageLeavesUndefined) {
   testing::TempStore store;
   ASSERT_EQ(WriteDeclaration(store.Open(), Kind::Common, 0, 0, store.Dir()), 1);
   const QString volume = store.Dir() + u"/CSL01"_s;
-  const QByteArray written = Read(volume);
+  const QByteArray written = testing::FileBytes(volume);
   const QByteArray undefined(
       "\x81\x88\x8A\x8C\x8D\x8E\x8F\x90\x98\x9A\x9C\x9D\x9E\x9F\xAA\xD2\xFF");
   for (int byte = 0x80; byte <= 0xFF; ++byte) {
@@ -139,7 +135,7 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
   using Edit = std::function<void(const QString&)>;
   const auto change = [](const char* volume, const std::function<void(QByteArray&)>& edit) {
     return Edit([=](const QString& prefix) {
-      QByteArray bytes = Read(prefix + QLatin1StringView(volume));
+      QByteArray bytes = testing::FileBytes(prefix + QLatin1StringView(volume));
       edit(bytes);
       Write(prefix + QLatin1StringView(volume), bytes);
     });
@@ -170,7 +166,7 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
        2},
       {"ExtraAfterTheLast",
        [](const QString& p) {
-         QByteArray bytes = Read(p + u"03"_s);
+         QByteArray bytes = testing::FileBytes(p + u"03"_s);
          bytes.replace(3, 7, "04CSL04");
          Write(p + u"04"_s, bytes);
        },

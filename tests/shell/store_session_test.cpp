@@ -19,6 +19,7 @@
 #include "shell/texts.h"
 #include "store/backups.h"
 #include "support/fakes.h"
+#include "support/files.h"
 #include "support/store_rows.h"
 
 namespace veroxia {
@@ -26,11 +27,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace store_texts;
-
-QByteArray Bytes(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // Overwrites bytes in the middle of the file, in a page that only a read of
 // the whole store reaches.
@@ -121,7 +117,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     store.vars.StoreConnection.reset();
     store.vars.StoreOpen = false;
     c.make(store.Dir(), store.Path());
-    const QByteArray before = Bytes(store.Path());
+    const QByteArray before = testing::FileBytes(store.Path());
     testing::FakeDialogs dialogs;
     int ended = 0;
 
@@ -151,7 +147,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     const QStringList made = ListBackups(store.Path());
     EXPECT_EQ(made.size(), c.backups);
     if (!c.writes) {
-      EXPECT_EQ(Bytes(store.Path()), before);
+      EXPECT_EQ(testing::FileBytes(store.Path()), before);
     }
     // The backup was made before the first change reached the store.
     if (c.writes && c.backups == 1) {
