@@ -1,7 +1,8 @@
 #pragma once
 // Stand-ins for the person in front of the screen during a measurement:
 // every message is counted, every question answered Yes, the search dialog
-// answers the key it was given, the directory dialog is cancelled.
+// answers the key it was given, the directory dialog is cancelled, the file
+// chooser answers the file it was given, a long task runs without a bar.
 
 #include "shell/ports.h"
 
@@ -16,9 +17,18 @@ class SilentDialogs : public Dialogs {
   QString AskDirectory() override { return {}; }
   void PrintPreview(const std::function<bool(Printer&)>&) override {}
   void ShowReport(const Report&) override {}
+  bool ConfirmReport(const Report&, const QString&) override { return true; }
+  QString AskFile(const FileQuestion&) override { return file; }
+  void RunWithProgress(const QString&, const std::function<void(Progress&)>& task) override {
+    struct Unstopped : Progress {
+      bool Advance(qint64, qint64) override { return true; }
+    } progress;
+    task(progress);
+  }
 
   int messages = 0;
   SearchAnswer search;
+  QString file;
 };
 
 class SilentScreens : public Screens {

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <memory>
 
+#include "cli/console.h"
+#include "cli/lines_commands.h"
 #include "cli/store_commands.h"
 #include "cli/verify_command.h"
 #include "filing/create_file.h"
@@ -28,6 +30,7 @@
 namespace {
 
 using namespace veroxia;
+using namespace veroxia::cli;
 using namespace Qt::StringLiterals;
 
 constexpr int kFailed = 1;
@@ -56,6 +59,16 @@ const char* const kHelp =
     "                                    stored declaration's counts with\n"
     "                                    --against; exit status 0 when all\n"
     "                                    holds, 1 when not, 2 on an error\n"
+    "  import common|construction ID FILE\n"
+    "                                    brings the employee lines of a CSV\n"
+    "                                    file into the declaration, each checked\n"
+    "                                    as the employee screen checks it: all\n"
+    "                                    are stored, or none; every failing row\n"
+    "                                    is told on standard error; exit status\n"
+    "                                    0 when stored, 1 when not\n"
+    "  export-lines common|construction ID FILE\n"
+    "                                    writes the declaration's lines to a CSV\n"
+    "                                    file that import reads back\n"
     "  backup                            copies the store now into the folder\n"
     "                                    backups/ beside it; prints the copy's path\n"
     "  restore FILE                      puts FILE, a copy of the store, in the\n"
@@ -71,51 +84,6 @@ const char* const kHelp =
     "Exit status: 0 when done; 1 when the store, the file or the printout\n"
     "failed, the declaration has no submission date, or a restore was refused;\n"
     "2 for a wrong command line.\n";
-
-void Print(FILE* to, const QString& text) {
-  QString lines = text;
-  lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-  std::fputs(lines.toUtf8().constData(), to);
-  std::fputc('\n', to);
-}
-
-// The person in front of the screen is a script: messages go to standard
-// error; a question is told there too and answered Yes, the command being the
-// answer (the volumes are written though the totals disagree, as the
-// program's file button allows); the directory is the one given.
-class ConsoleDialogs : public Dialogs {
- public:
-  explicit ConsoleDialogs(QString directory) : directory_(std::move(directory)) {}
-  void Message(const QString& text, const QString&) override { Print(stderr, text); }
-  bool Ask(const QString& text, const QString&, AskStyle) override {
-    Print(stderr, text);
-    return true;
-  }
-  void SetBusy(bool) override {}
-  SearchAnswer AskInsuredPerson() override { return {}; }
-  QString AskDirectory() override { return directory_; }
-  // The command line has no preview: its printouts go straight to the
-  // printer the command names (RunPrintout).
-  void PrintPreview(const std::function<bool(Printer&)>&) override {}
-  void ShowReport(const Report& report) override {
-    for (const QString& line : ReportText(report)) Print(stdout, line);
-  }
-
- private:
-  QString directory_;
-};
-
-// The kind named on the command line; false for another word.
-bool ReadKind(const QString& word, Kind& kind) {
-  if (word == u"common") {
-    kind = Kind::Common;
-  } else if (word == u"construction") {
-    kind = Kind::Construction;
-  } else {
-    return false;
-  }
-  return true;
-}
 
 int Usage(const QString& why) {
   Print(stderr, u"veroxia-cli: "_s + why);
@@ -187,6 +155,10 @@ int main(int argc, char** argv) {
   }
   const QString command = args.value(0);
   if (command == u"verify") return VerifyCommand(args.mid(1), store, Usage);
+  if (IsLinesCommand(command)) {
+    if (const QString wrong = LinesCommandUsage(args); !wrong.isEmpty()) return Usage(wrong);
+    return RunLinesCommand(store, args);
+  }
   if (cli::IsStoreCommand(command)) {
     if (const QString wrong = cli::StoreCommandUsage(args); !wrong.isEmpty()) return Usage(wrong);
     return cli::RunStoreCommand(store, args);
@@ -248,7 +220,7 @@ int main(int argc, char** argv) {
   vars.DeclarationId = static_cast<std::int16_t>(id);
   if (command == u"check") return Check(*vars.StoreConnection, kind, id);
   if (command == u"print") {
-    ConsoleDialogs dialogs({});
+    ConsoleDialogs dialogs;
     std::unique_ptr<Printer> printer;
     if (pdf_file.isEmpty()) {
       printer = std::make_unique<TextPrinter>(stdout);

@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <cstdio>
 
+#include "cli/console.h"
+
 #include "shell/errors.h"
 #include "shell/store_session.h"
 #include "shell/store_texts.h"
@@ -19,13 +21,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kFailed = 1;
-
-void Print(FILE* to, const QString& text) {
-  QString lines = text;
-  lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-  std::fputs(lines.toUtf8().constData(), to);
-  std::fputc('\n', to);
-}
 
 // backup: a copy of the store now, as the program makes before the first
 // change of a session; its path on standard output.

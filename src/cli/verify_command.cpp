@@ -3,6 +3,8 @@
 #include <QDir>
 #include <cstdio>
 
+#include "cli/console.h"
+
 #include "filing/volume_check.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
@@ -14,16 +16,10 @@ namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
+using cli::Print;
 
 constexpr int kNotHolding = 1;
 constexpr int kError = 2;
-
-void Print(FILE* to, const QString& text) {
-  QString lines = text;
-  lines.replace(u"\r\n"_s, u"\n"_s);
-  std::fputs(lines.toUtf8().constData(), to);
-  std::fputc('\n', to);
-}
 
 }  // namespace
 
@@ -36,11 +32,7 @@ int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(co
   Kind kind = Kind::Common;
   int id = 0;
   if (against) {
-    if (args[2] == u"construction") {
-      kind = Kind::Construction;
-    } else if (args[2] != u"common") {
-      return usage(u"the kind is common or construction"_s);
-    }
+    if (!cli::ReadKind(args[2], kind)) return usage(u"the kind is common or construction"_s);
     bool number = false;
     id = args[3].toInt(&number);
     if (!number || id < 1 || id > 32767) return usage(u"the id is a number from 1 to 32767"_s);

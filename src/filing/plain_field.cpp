@@ -109,6 +109,20 @@ const CodePage& CodePageTable() {
   return page;
 }
 
+std::optional<QString> FirstUnencodable(const QString& text) {
+  const CodePage& table = CodePageTable();
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const QChar c = text[i];
+    if (c.unicode() == 0 || table.Byte(c.unicode()) != 0) continue;
+    if (c.isSurrogate()) return text.mid(i, c.isHighSurrogate() ? 2 : 1);
+    // Outside the table's blocks (the trade mark sign): the encoder decides.
+    QStringEncoder encoder("windows-1253", QStringConverter::Flag::Stateless);
+    const QByteArray byte = encoder.encode(QStringView(&c, 1));
+    if (encoder.hasError() || byte.size() != 1) return QString(c);
+  }
+  return std::nullopt;
+}
+
 bool AppendPlainField(QByteArray& out, const VolumeField& field,
                       std::optional<std::string_view> value) {
   if (value) {

@@ -39,6 +39,10 @@ class CodePage {
 
 const CodePage& CodePageTable();
 
+// The first character of the text that Windows-1253 cannot hold (a letter
+// outside the Basic Multilingual Plane whole); nothing when it holds them all.
+std::optional<QString> FirstUnencodable(const QString& text);
+
 // Appends the field made from the stored value (nothing: Null) and answers
 // true; or appends nothing and answers false when the value is not plain
 // ASCII (or, for a text, characters of the table) or its formatting is not

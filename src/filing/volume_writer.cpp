@@ -18,20 +18,6 @@ QStringEncoder MakeEncoder() {
   return QStringEncoder("windows-1253", QStringConverter::Flag::Stateless);
 }
 
-// The first character of the text that the code page cannot hold; empty when
-// it holds them all.
-QString FirstUnencodable(const QString& text) {
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    const qsizetype length = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
-    const QString character = text.mid(i, length);
-    QStringEncoder encoder = MakeEncoder();
-    const QByteArray bytes = encoder.encode(character);  // encodes only when converted
-    if (encoder.hasError()) return character;
-    i += length - 1;
-  }
-  return {};
-}
-
 }  // namespace
 
 QString VolumeNumber(int volume) {
@@ -113,7 +99,7 @@ void VolumeWriter::AppendField(QByteArray& record, const VolumeField& field, con
   // Tell the user where the character stands.
   Unencodable fault;
   fault.field = field.box > 0 ? QString::number(field.box) : QLatin1StringView(field.column);
-  fault.character = FirstUnencodable(text);
+  fault.character = FirstUnencodable(text).value_or(QString());
   if (line != nullptr) {
     fault.row_num = FieldText(line->Value(line->ColumnIndex(u"row_num"_s)));
     fault.insured_id = FieldText(line->Value(line->ColumnIndex(u"insured_id"_s)));

@@ -109,6 +109,14 @@ LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect t
   layout->addWidget(heading, 0, Qt::AlignHCenter);
   layout->addWidget(BuildFields(rows));
   layout->addStretch(1);
+  // Lines from and to a CSV file, on a row of their own over the buttons of
+  // the line shown.
+  auto* files = new QHBoxLayout;
+  files->addStretch(1);
+  for (const char* name : {"ImportCmd", "ExportCmd"}) {
+    files->addWidget(binder_->Add<QPushButton>(QString::fromLatin1(name), this));
+  }
+  layout->addLayout(files);
   layout->addLayout(BuildButtons());
 
   binder_->OnClick(u"NewCmd"_s, [this] { form_.NewCmd_Click(); });
@@ -123,6 +131,8 @@ LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect t
   binder_->OnClick(u"PrevCmd"_s, [this] { form_.PrevCmd_Click(); });
   binder_->OnClick(u"Nextcmd"_s, [this] { form_.Nextcmd_Click(); });
   binder_->OnClick(u"LastCmd"_s, [this] { form_.LastCmd_Click(); });
+  binder_->OnClick(u"ImportCmd"_s, [this] { form_.ImportCmd_Click(); });
+  binder_->OnClick(u"ExportCmd"_s, [this] { form_.ExportCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
   binder_->FocusFirst();
   binder_->Mirror();

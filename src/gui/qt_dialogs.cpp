@@ -2,10 +2,13 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QScreen>
 #include <algorithm>
 #include <cstdio>
@@ -238,6 +241,75 @@ void QtDialogs::ShowReport(const Report& report) {
   }
   ArrowWhileOpen arrow(busy_);
   ShowReportWindow(Owner(), report);
+}
+
+bool QtDialogs::ConfirmReport(const Report& report, const QString& go_on) {
+  BeforeBoxOpens::RunAll();
+  if (unattended_) {
+    ShowReport(report);
+    return false;
+  }
+  ArrowWhileOpen arrow(busy_);
+  return ConfirmReportWindow(Owner(), report, go_on);
+}
+
+QString QtDialogs::AskFile(const FileQuestion& question) {
+  BeforeBoxOpens::RunAll();
+  if (unattended_) {
+    Print(question.title, texts::kAppTitle);
+    return {};
+  }
+  ArrowWhileOpen arrow(busy_);
+  // Qt's own dialog, in our Greek, wherever the program runs.
+  const QFileDialog::Options options = QFileDialog::DontUseNativeDialog;
+  if (question.save) {
+    return QFileDialog::getSaveFileName(Owner(), question.title,
+                                        QDir::home().filePath(question.suggested), question.filter,
+                                        nullptr, options);
+  }
+  return QFileDialog::getOpenFileName(Owner(), question.title, QDir::homePath(), question.filter,
+                                      nullptr, options);
+}
+
+void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) {
+  BeforeBoxOpens::RunAll();
+  struct Unstopped : Progress {
+    bool Advance(qint64, qint64) override { return true; }
+  };
+  if (unattended_) {
+    Unstopped progress;
+    task(progress);
+    return;
+  }
+  constexpr int kSteps = 1000;
+  QProgressDialog dialog(DisplayText(text), texts::kCancelCmd, 0, kSteps, Owner());
+  dialog.setWindowTitle(texts::kAppTitle);
+  dialog.setWindowModality(Qt::ApplicationModal);
+  dialog.setAutoReset(false);
+  dialog.setAutoClose(false);
+  dialog.setMinimumDuration(400);
+  dialog.setValue(0);
+  // The bar and the windows are brought up to date a few times a second:
+  // often enough to answer the cancel button at once, seldom enough to cost
+  // the work nothing.
+  class Bar : public Progress {
+   public:
+    explicit Bar(QProgressDialog& dialog) : dialog_(dialog) { since_.start(); }
+    bool Advance(qint64 done, qint64 total) override {
+      if (since_.elapsed() >= 40 || done >= total) {
+        since_.restart();
+        const qint64 step = total > 0 ? done * kSteps / total : 0;
+        dialog_.setValue(static_cast<int>(std::min<qint64>(step, kSteps - 1)));
+        QCoreApplication::processEvents();
+      }
+      return !dialog_.wasCanceled();
+    }
+
+   private:
+    QProgressDialog& dialog_;
+    QElapsedTimer since_;
+  } bar(dialog);
+  task(bar);
 }
 
 }  // namespace veroxia

@@ -65,6 +65,15 @@ class QtDialogs : public Dialogs {
   // The report window over the window shown now; in unattended runs the
   // report's lines go to standard output instead.
   void ShowReport(const Report& report) override;
+  // The report window with a button to go on; in unattended runs the report
+  // goes to standard output and the answer is to stop.
+  bool ConfirmReport(const Report& report, const QString& go_on) override;
+  // Qt's file dialog over the window shown now; cancelled at once in
+  // unattended runs.
+  QString AskFile(const FileQuestion& question) override;
+  // A progress bar with a cancel button over the window shown now, modal,
+  // once the task takes longer than a moment; no bar in unattended runs.
+  void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) override;
 
   bool Busy() const { return busy_; }
 

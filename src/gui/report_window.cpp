@@ -2,9 +2,12 @@
 
 #include <QBoxLayout>
 #include <QDialog>
+#include <QDir>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -14,6 +17,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "shell/texts.h"
+
 namespace veroxia {
 
 namespace {
@@ -21,6 +26,9 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const QString kClose = u"Κλείσιμο"_s;
+const QString kSave = u"Αποθήκευση ως κείμενο"_s;
+const QString kSaveTitle = u"Αποθήκευση της αναφοράς σε αρχείο κειμένου"_s;
+const QString kTextFilter = u"Αρχεία κειμένου (*.txt);;Όλα τα αρχεία (*)"_s;
 const QColor kFault(0xb0, 0x00, 0x00);
 
 // Lines of notes shown without scrolling.
@@ -68,9 +76,22 @@ QSize TableRoom(const QTableWidget& table, int most_height) {
   return {width, std::min(height, most_height)};
 }
 
+// The report as a text file, where the user chooses; a file that cannot be
+// written is told.
+void SaveReport(QWidget* window, const Report& report) {
+  const QString path =
+      QFileDialog::getSaveFileName(window, kSaveTitle, QDir::home().filePath(u"report.txt"_s),
+                                   kTextFilter, nullptr, QFileDialog::DontUseNativeDialog);
+  if (path.isEmpty()) return;
+  const QString problem = SaveReportText(report, path);
+  if (problem.isEmpty()) return;
+  QMessageBox box(QMessageBox::NoIcon, texts::kAppTitle, problem, QMessageBox::Ok, window);
+  box.exec();
+}
+
 }  // namespace
 
-QDialog* MakeReportWindow(QWidget* parent, const Report& report) {
+QDialog* MakeReportWindow(QWidget* parent, const Report& report, const QString& go_on) {
   auto* window = new QDialog(parent);
   window->setObjectName(u"ReportWindow"_s);
   window->setWindowTitle(report.title);
@@ -121,11 +142,24 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report) {
   column->addWidget(verdict);
 
   auto* buttons = new QHBoxLayout;
+  auto* save = new QPushButton(kSave, window);
+  save->setObjectName(u"SaveCmd"_s);
+  save->setAutoDefault(false);
+  QObject::connect(save, &QPushButton::clicked, window,
+                   [window, report] { SaveReport(window, report); });
+  buttons->addWidget(save);
   buttons->addStretch(1);
-  auto* close = new QPushButton(kClose, window);
+  if (!go_on.isEmpty()) {
+    auto* go = new QPushButton(go_on, window);
+    go->setObjectName(u"GoOnCmd"_s);
+    QObject::connect(go, &QPushButton::clicked, window, &QDialog::accept);
+    buttons->addWidget(go);
+  }
+  auto* close = new QPushButton(go_on.isEmpty() ? kClose : texts::kCancelCmd, window);
   close->setObjectName(u"CloseCmd"_s);
   close->setDefault(true);
-  QObject::connect(close, &QPushButton::clicked, window, &QDialog::accept);
+  QObject::connect(close, &QPushButton::clicked, window,
+                   go_on.isEmpty() ? &QDialog::accept : &QDialog::reject);
   buttons->addWidget(close);
   column->addLayout(buttons);
   window->adjustSize();
@@ -135,6 +169,11 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report) {
 void ShowReportWindow(QWidget* parent, const Report& report) {
   const std::unique_ptr<QDialog> window(MakeReportWindow(parent, report));
   window->exec();
+}
+
+bool ConfirmReportWindow(QWidget* parent, const Report& report, const QString& go_on) {
+  const std::unique_ptr<QDialog> window(MakeReportWindow(parent, report, go_on));
+  return window->exec() == QDialog::Accepted;
 }
 
 }  // namespace veroxia

@@ -16,25 +16,29 @@ std::optional<FieldFault> FaultOf(const Fault& message, const QString& field, On
 
 }  // namespace
 
-bool RunHeaderChecks(Form& form, Dialogs& dialogs, const std::vector<HeaderCheck>& checks) {
+std::optional<FieldFault> FirstFault(const std::vector<HeaderCheck>& checks) {
   try {
     for (const HeaderCheck& check : checks) {
-      const std::optional<FieldFault> fault = check();
-      if (!fault) continue;
-      dialogs.Message(fault->message, texts::kAppTitle);
-      if (fault->then == OnFault::Select) {
-        const int whole = static_cast<int>(form.Text(fault->field).size());
-        form.Select(fault->field, fault->length < 0 ? whole : fault->length);
-      } else {
-        form.SetFocus(fault->field);
-      }
-      return false;
+      if (std::optional<FieldFault> fault = check()) return fault;
     }
-    return true;
+    return std::nullopt;
   } catch (...) {
-    dialogs.Message(header_texts::kUnknownFieldError, texts::kAppTitle);
-    return false;
+    return FieldFault{QString(), header_texts::kUnknownFieldError};
   }
+}
+
+bool RunHeaderChecks(Form& form, Dialogs& dialogs, const std::vector<HeaderCheck>& checks) {
+  const std::optional<FieldFault> fault = FirstFault(checks);
+  if (!fault) return true;
+  dialogs.Message(fault->message, texts::kAppTitle);
+  if (fault->field.isEmpty()) return false;
+  if (fault->then == OnFault::Select) {
+    const int whole = static_cast<int>(form.Text(fault->field).size());
+    form.Select(fault->field, fault->length < 0 ? whole : fault->length);
+  } else {
+    form.SetFocus(fault->field);
+  }
+  return false;
 }
 
 HeaderCheck FilledCheck(const Form& form, const QString& field, const QString& message,

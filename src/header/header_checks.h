@@ -30,8 +30,12 @@ struct FieldFault {
 // a rule after the first failure is never evaluated.
 using HeaderCheck = std::function<std::optional<FieldFault>()>;
 
+// Runs the rules in order and answers the first failure, without a word to
+// the user. An unexpected error while the rules run is the unknown-error
+// message, on no field.
+std::optional<FieldFault> FirstFault(const std::vector<HeaderCheck>& checks);
+
 // Runs the rules in order and reports the first failure (application title).
-// An unexpected error while the rules run gives the unknown-error message.
 // True when every rule passes.
 bool RunHeaderChecks(Form& form, Dialogs& dialogs, const std::vector<HeaderCheck>& checks);
 

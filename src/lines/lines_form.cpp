@@ -1,6 +1,9 @@
 #include "lines/lines_form.h"
 
 #include "header/date_box.h"
+#include "lines/import_texts.h"
+#include "lines/line_import.h"
+#include "lines/line_kinds.h"
 #include "lines/texts.h"
 #include "rules/numbers.h"
 #include "rules/texts.h"
@@ -23,6 +26,8 @@ const QString kClear = u"ClearCmd"_s;
 const QString kDelete = u"DeleteCmd"_s;
 const QString kSeek = u"SeekCmd"_s;
 const QString kBack = u"BackCmd"_s;
+const QString kImport = u"ImportCmd"_s;
+const QString kExport = u"ExportCmd"_s;
 const QString kFirst = u"FirstCmd"_s;
 const QString kPrev = u"PrevCmd"_s;
 const QString kNext = u"Nextcmd"_s;
@@ -55,6 +60,8 @@ LinesForm::LinesForm(Vars& vars, Dialogs& dialogs, Screens& screens, const Lines
   Declare(kDelete, kDeleteCmd);
   Declare(kSeek, kSeekCmd);
   Declare(kBack, kBackCmd);
+  Declare(kImport, import_texts::kImportCmd);
+  Declare(kExport, import_texts::kExportCmd);
   for (const QString& name : NavigationButtons()) Declare(name);
 }
 
@@ -64,7 +71,7 @@ QStringList LinesForm::FocusOrder() const {
   QStringList order;
   for (const LineField& field : layout_.fields) order << field.name;
   order << kOk << kNew << kUpDate << kCancel << kClear << kDelete << kSeek << kBack
-        << NavigationButtons();
+        << NavigationButtons() << kImport << kExport;
   return order;
 }
 
@@ -146,6 +153,9 @@ void LinesForm::SetEntryButtons() {
   for (const QString& name : {kOk, kClear, kCancel}) At(name).visible = true;
   At(kUpDate).visible = false;
   At(kNew).visible = false;
+  // Lines come and go by file in new mode, not while one is being corrected.
+  At(kImport).enabled = !edit_mode_;
+  At(kExport).enabled = !edit_mode_;
 }
 
 void LinesForm::SetBrowseButtons() {
@@ -155,6 +165,8 @@ void LinesForm::SetBrowseButtons() {
   for (const QString& name : {kOk, kClear, kCancel}) At(name).visible = false;
   At(kUpDate).visible = true;
   At(kNew).visible = true;
+  At(kImport).enabled = true;
+  At(kExport).enabled = true;
 }
 
 void LinesForm::EnableLineFields(bool enabled) {
@@ -249,13 +261,13 @@ void LinesForm::ShowRememberedLine() {
 }
 
 void LinesForm::EnterNewMode() {
+  has_lines_ = false;
+  edit_mode_ = false;
+  new_mode_ = true;
   SetEntryButtons();
   EnableLineFields(true);
   // Where ClearFields moves the focus itself, it is left to it.
   if (!layout_.clear_moves_focus) GotFocus(FirstField());
-  has_lines_ = false;
-  edit_mode_ = false;
-  new_mode_ = true;
   ClearFields();
 }
 
@@ -293,14 +305,24 @@ void LinesForm::ShowStoreError(const StoreError& error) {
   dialogs_.Message(ErrorMessage(kStoreProblem, error), texts::kAppTitle);
 }
 
+const std::vector<HeaderCheck>& LinesForm::Checks() {
+  if (checks_.empty()) checks_ = LineChecks();
+  return checks_;
+}
+
+bool LinesForm::CheckLine() { return RunHeaderChecks(*this, dialogs_, Checks()); }
+
+int LinesForm::NextRowNum() {
+  return static_cast<int>(LeadingValue(FieldNumber(MaxRowNum(Store(), layout_.kind, Id())))) + 1;
+}
+
 void LinesForm::InsertData() {
   std::optional<BusyPointer> busy(std::in_place, dialogs_);
   if (!CheckLine() || !ConfirmCheckDigits(*this, dialogs_, layout_.fields)) return;
   const ColumnValues values = StoredValues();
   int row_num = 0;
   try {
-    row_num =
-        static_cast<int>(LeadingValue(FieldNumber(MaxRowNum(Store(), layout_.kind, Id())))) + 1;
+    row_num = NextRowNum();
     InsertLine(Id(), row_num, values);
   } catch (const StoreError& error) {
     busy.reset();
@@ -374,6 +396,24 @@ void LinesForm::DeleteLine() {
   }
   EnterNewMode();
 }
+
+void LinesForm::ImportCmd_Click() {
+  // A screen of the same kind reads the file's rows, so that the fields here
+  // keep what they show until lines were stored.
+  const std::unique_ptr<LinesForm> reader = MakeLinesForm(layout_.kind, vars_, dialogs_, screens_);
+  const std::optional<int> first = ImportLines(*reader, dialogs_);
+  if (!first) return;
+  // The first line brought in is shown, in browse mode.
+  current_row_num_ = QString::number(*first);
+  has_lines_ = true;
+  edit_mode_ = false;
+  new_mode_ = false;
+  SetBrowseButtons();
+  ShowRememberedLine();
+  if (has_lines_) EnableLineFields(false);
+}
+
+void LinesForm::ExportCmd_Click() { ExportLinesTo(Store(), layout_.kind, Id(), dialogs_); }
 
 void LinesForm::SeekLine() {
   const qsizetype shown = line_set_.Position();

@@ -10,6 +10,7 @@
 #include <QStringList>
 #include <optional>
 
+#include "header/header_checks.h"
 #include "header/header_columns.h"
 #include "lines/line_set.h"
 #include "lines/lines_layout.h"
@@ -60,15 +61,31 @@ class LinesForm : public Form {
   void DeleteCmd_Click() { DeleteLine(); }
   void SeekCmd_Click() { SeekLine(); }
   void BackCmd_Click();
+  // Lines brought in from a CSV file, or written out to one (browse and new
+  // modes).
+  void ImportCmd_Click();
+  void ExportCmd_Click();
   // The window is being closed. True when it may close; unless Back closes
   // it, the user is asked, and Yes ends the program.
   bool QueryClose();
   // A field takes the focus: its content is selected.
   void GotFocus(const QString& name);
 
-  // The kind's check sequence; true when the fields hold a line that may be
-  // stored.
-  virtual bool CheckLine() = 0;
+  // The kind's check sequence: true when the fields hold a line that may be
+  // stored; otherwise the first rule broken is shown and its field selected.
+  bool CheckLine();
+  // The first rule the line in the fields breaks, nothing when it may be
+  // stored. Nothing is shown.
+  std::optional<FieldFault> LineFault() { return FirstFault(Checks()); }
+  // What each column stores of the fields: names cleaned, flags and dates as
+  // the kind stores them.
+  ColumnValues StoredValues() const;
+  // The number the next line of the declaration takes. Throws StoreError.
+  int NextRowNum();
+  // Stores the values as line `row_num` of the declaration. Throws StoreError.
+  void StoreLine(int row_num, const ColumnValues& values) { InsertLine(Id(), row_num, values); }
+  Database& Store() { return *vars_.StoreConnection; }
+  int Id() const { return vars_.DeclarationId; }
   void InsertData();
   void UpdateLine();
   void DeleteLine();
@@ -89,6 +106,8 @@ class LinesForm : public Form {
   static QStringList NavigationButtons();
 
  protected:
+  // The kind's rules, in order. They read the fields when they run.
+  virtual std::vector<HeaderCheck> LineChecks() = 0;
   // The kind's lines table. All throw StoreError. ReadLine gives the line's
   // number too (LineColumnValues).
   virtual std::optional<ColumnValues> ReadLine(qint64 rowid) = 0;
@@ -100,17 +119,17 @@ class LinesForm : public Form {
   Screens& screens_;
 
  private:
-  Database& Store() { return *vars_.StoreConnection; }
-  int Id() const { return vars_.DeclarationId; }
+  // The rules, made once.
+  const std::vector<HeaderCheck>& Checks();
   void OpenLines();
   // Re-reads the set and shows the line numbered CurrentRowNum, the first
   // line when none is.
   void ShowRememberedLine();
-  ColumnValues StoredValues() const;
   void ShowStoreError(const StoreError& error);
   void EnterNewMode();
 
   const LinesLayout& layout_;
+  std::vector<HeaderCheck> checks_;
   LineSet line_set_;
   bool going_back_ = false;
   bool edit_mode_ = false;

@@ -111,7 +111,7 @@ const LinesLayout& OvtForm2::CommonLayout() {
 OvtForm2::OvtForm2(Vars& vars, Dialogs& dialogs, Screens& screens)
     : LinesFormOf(vars, dialogs, screens, CommonLayout()) {}
 
-bool OvtForm2::CheckLine() {
+std::vector<HeaderCheck> OvtForm2::LineChecks() {
   constexpr OnFault kSelect = OnFault::Select;
   constexpr OnFault kFocus = OnFault::Focus;
   const Form& form = *this;
@@ -123,47 +123,45 @@ bool OvtForm2::CheckLine() {
     }
     return std::nullopt;
   };
-  return RunHeaderChecks(
-      *this, dialogs_,
-      {
-          IntegerCheck(form, u"Text18_1"_s, kNameBranch, 4, true, kSelect),
-          IntegerCheck(form, u"Text18_2"_s, kNameKad, 4, true, kSelect),
-          IntegerCheckIfFilled(form, u"Text19"_s, kNameInsuredId, 9, true),
-          IntegerCheckIfFilled(form, u"Text20"_s, kNameAmka, 11, true),
-          FilledCheck(form, u"Text21"_s, kSurnameBlank, kFocus),
-          NamedCheck(form, u"Text21"_s, kNameSurname),
-          FilledCheck(form, u"Text22"_s, kNameBlank, kFocus),
-          NamedCheck(form, u"Text22"_s, kNameName),
-          FilledCheck(form, u"Text23"_s, kFatherBlank, kFocus),
-          NamedCheck(form, u"Text23"_s, kNameFather),
-          FilledCheck(form, u"Text24"_s, kMotherBlank, kFocus),
-          NamedCheck(form, u"Text24"_s, kNameMother),
-          DateFilledCheck(form, u"Text25"_s, kBirthBlank),
-          DateBoxCheck(form, u"Text25"_s, kNameBirth),
-          IntegerCheck(form, u"Text26"_s, kNameAfm, 9, true, kSelect),
-          ChoiceCheck(form, u"Text27"_s, kFullDayBlank, kFullDayYesNo, yes_no),
-          ChoiceCheck(form, u"Text28"_s, kAllDaysBlank, kAllDaysYesNo, yes_no),
-          IntegerCheck(form, u"Text29"_s, kNameSundays, 1, true, kSelect),
-          IntegerCheck(form, u"Text30"_s, kNameCategory, 6, false, kSelect),
-          IntegerCheckIfFilled(form, u"Text31"_s, kNameSpecial, 2, false),
-          IntegerCheck(form, u"Text32"_s, kNameCover, 4, false, kSelect),
-          [&form] { return MonthFault(form.Text(u"Text33_1"_s)); },
-          [&form] { return YearFault(form.Text(u"Text33_2"_s)); },
-          period,
-          DateBoxCheck(form, u"Text34"_s, kNameSalFrom),
-          DateBoxCheck(form, u"Text35"_s, kNameSalTo),
-          IntegerCheck(form, u"Text36"_s, kNameWageCode, 2, false, kSelect),
-          IntegerCheck(form, u"Text37"_s, kNameDays, 3, false, kSelect),
-          IfFilled(form, u"Text38"_s, DecimalCheck(form, u"Text38"_s, kNameDailyWage, 8, kSelect)),
-          DecimalCheck(form, u"Text39"_s, kNameSalary, 8, kSelect),
-          DecimalCheck(form, u"Text40"_s, kNameInsuredContr, 8, kSelect),
-          DecimalCheck(form, u"Text41"_s, kNameEmployerContr, 8, kSelect),
-          DecimalCheck(form, u"Text42"_s, kNameTotalContr, 9, kSelect),
-          DecimalCheck(form, u"Text43"_s, kNameSubsidy, 8, kSelect),
-          DecimalCheck(form, u"Text44"_s, kNameSubsidyPercent, 3, kSelect),
-          DecimalCheck(form, u"Text45"_s, kNameEmpSubsidy, 8, kSelect),
-          DecimalCheck(form, u"Text46"_s, kNamePayed, 9, kSelect),
-      });
+  return {
+      IntegerCheck(form, u"Text18_1"_s, kNameBranch, 4, true, kSelect),
+      IntegerCheck(form, u"Text18_2"_s, kNameKad, 4, true, kSelect),
+      IntegerCheckIfFilled(form, u"Text19"_s, kNameInsuredId, 9, true),
+      IntegerCheckIfFilled(form, u"Text20"_s, kNameAmka, 11, true),
+      FilledCheck(form, u"Text21"_s, kSurnameBlank, kFocus),
+      NamedCheck(form, u"Text21"_s, kNameSurname),
+      FilledCheck(form, u"Text22"_s, kNameBlank, kFocus),
+      NamedCheck(form, u"Text22"_s, kNameName),
+      FilledCheck(form, u"Text23"_s, kFatherBlank, kFocus),
+      NamedCheck(form, u"Text23"_s, kNameFather),
+      FilledCheck(form, u"Text24"_s, kMotherBlank, kFocus),
+      NamedCheck(form, u"Text24"_s, kNameMother),
+      DateFilledCheck(form, u"Text25"_s, kBirthBlank),
+      DateBoxCheck(form, u"Text25"_s, kNameBirth),
+      IntegerCheck(form, u"Text26"_s, kNameAfm, 9, true, kSelect),
+      ChoiceCheck(form, u"Text27"_s, kFullDayBlank, kFullDayYesNo, yes_no),
+      ChoiceCheck(form, u"Text28"_s, kAllDaysBlank, kAllDaysYesNo, yes_no),
+      IntegerCheck(form, u"Text29"_s, kNameSundays, 1, true, kSelect),
+      IntegerCheck(form, u"Text30"_s, kNameCategory, 6, false, kSelect),
+      IntegerCheckIfFilled(form, u"Text31"_s, kNameSpecial, 2, false),
+      IntegerCheck(form, u"Text32"_s, kNameCover, 4, false, kSelect),
+      [this] { return MonthFault(Text(u"Text33_1"_s)); },
+      [this] { return YearFault(Text(u"Text33_2"_s)); },
+      period,
+      DateBoxCheck(form, u"Text34"_s, kNameSalFrom),
+      DateBoxCheck(form, u"Text35"_s, kNameSalTo),
+      IntegerCheck(form, u"Text36"_s, kNameWageCode, 2, false, kSelect),
+      IntegerCheck(form, u"Text37"_s, kNameDays, 3, false, kSelect),
+      IfFilled(form, u"Text38"_s, DecimalCheck(form, u"Text38"_s, kNameDailyWage, 8, kSelect)),
+      DecimalCheck(form, u"Text39"_s, kNameSalary, 8, kSelect),
+      DecimalCheck(form, u"Text40"_s, kNameInsuredContr, 8, kSelect),
+      DecimalCheck(form, u"Text41"_s, kNameEmployerContr, 8, kSelect),
+      DecimalCheck(form, u"Text42"_s, kNameTotalContr, 9, kSelect),
+      DecimalCheck(form, u"Text43"_s, kNameSubsidy, 8, kSelect),
+      DecimalCheck(form, u"Text44"_s, kNameSubsidyPercent, 3, kSelect),
+      DecimalCheck(form, u"Text45"_s, kNameEmpSubsidy, 8, kSelect),
+      DecimalCheck(form, u"Text46"_s, kNamePayed, 9, kSelect),
+  };
 }
 
 }  // namespace veroxia

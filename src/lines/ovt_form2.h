@@ -14,8 +14,8 @@ class OvtForm2 : public LinesFormOf<EmployeeRow> {
   // The fields, captions and texts of this screen.
   static const LinesLayout& CommonLayout();
 
-  // The 36 rules, in order; the first failure is reported.
-  bool CheckLine() override;
+  // The 36 rules, in order.
+  std::vector<HeaderCheck> LineChecks() override;
 };
 
 }  // namespace veroxia

@@ -78,11 +78,11 @@ const LinesLayout& OvtForm4::ConstructionLayout() {
 OvtForm4::OvtForm4(Vars& vars, Dialogs& dialogs, Screens& screens)
     : LinesFormOf(vars, dialogs, screens, ConstructionLayout()) {}
 
-bool OvtForm4::CheckLine() {
+std::vector<HeaderCheck> OvtForm4::LineChecks() {
   constexpr OnFault kSelect = OnFault::Select;
   constexpr OnFault kFocus = OnFault::Focus;
   const Form& form = *this;
-  const std::vector<HeaderCheck> checks{
+  return {
       IntegerCheckIfFilled(form, u"Text21"_s, kNameConBranch, 3, true),
       IntegerCheckIfFilled(form, u"Text22"_s, kNameInsuredId, 9, true),
       IntegerCheckIfFilled(form, u"Text23"_s, kNameAmka, 11, true),
@@ -114,7 +114,6 @@ bool OvtForm4::CheckLine() {
       DecimalCheck(form, u"Text45"_s, kNameEmployerContr, 8, kSelect),
       DecimalCheck(form, u"Text46"_s, kNameTotalContr, 9, kSelect),
   };
-  return RunHeaderChecks(*this, dialogs_, checks);
 }
 
 }  // namespace veroxia

@@ -16,8 +16,8 @@ class OvtForm4 : public LinesFormOf<ConEmployeeRow> {
   // The fields, captions and texts of this screen.
   static const LinesLayout& ConstructionLayout();
 
-  // The 25 rules, in order; the first failure is reported.
-  bool CheckLine() override;
+  // The 25 rules, in order.
+  std::vector<HeaderCheck> LineChecks() override;
 };
 
 }  // namespace veroxia

@@ -23,20 +23,20 @@ struct YearTexts {
 
 bool IsBlank(const QString& text) { return text.trimmed().isEmpty(); }
 
-std::optional<FieldFault> CheckMonth(const QString& field, const QString& text,
-                                     const MonthTexts& says) {
-  if (IsBlank(text)) return FieldFault{field, says.blank, 0};
-  if (text.size() < 2) return FieldFault{field, says.length, 2};
+std::optional<PeriodFault> CheckMonth(const QString& field, const QString& text,
+                                      const MonthTexts& says) {
+  if (IsBlank(text)) return PeriodFault{field, says.blank, 0};
+  if (text.size() < 2) return PeriodFault{field, says.length, 2};
   const double value = LeadingValue(text);
-  if (!IsNumeric(text) || value < 1 || value > 12) return FieldFault{field, says.wrong, 2};
+  if (!IsNumeric(text) || value < 1 || value > 12) return PeriodFault{field, says.wrong, 2};
   return std::nullopt;
 }
 
-std::optional<FieldFault> CheckYear(const QString& field, const QString& text,
-                                    const YearTexts& says) {
-  if (IsBlank(text)) return FieldFault{field, says.blank, 0};
-  if (!IsNumeric(text)) return FieldFault{field, says.numeric, 4};
-  if (text.size() < 4) return FieldFault{field, says.length, 4};
+std::optional<PeriodFault> CheckYear(const QString& field, const QString& text,
+                                     const YearTexts& says) {
+  if (IsBlank(text)) return PeriodFault{field, says.blank, 0};
+  if (!IsNumeric(text)) return PeriodFault{field, says.numeric, 4};
+  if (text.size() < 4) return PeriodFault{field, says.length, 4};
   return std::nullopt;
 }
 
@@ -44,7 +44,7 @@ bool IsQuarterStart(double month) { return month == 1 || month == 4 || month == 
 
 }  // namespace
 
-std::optional<FieldFault> CheckCommonPeriod(const PeriodTexts& period) {
+std::optional<PeriodFault> CheckCommonPeriod(const PeriodTexts& period) {
   using namespace texts;
   if (auto fault = CheckMonth(QStringLiteral("Month1"), period.from_month,
                               {kStartMonthBlank, kStartMonthLength, kStartMonthWrong})) {
@@ -63,19 +63,19 @@ std::optional<FieldFault> CheckCommonPeriod(const PeriodTexts& period) {
     return fault;
   }
   if (LeadingValue(period.to_year) != LeadingValue(period.from_year)) {
-    return FieldFault{QStringLiteral("Year2"), kEndYearDiffers, 4};
+    return PeriodFault{QStringLiteral("Year2"), kEndYearDiffers, 4};
   }
   const double from = LeadingValue(period.from_month);
   const double to = LeadingValue(period.to_month);
   if (from != to && !IsQuarterStart(from)) {
-    return FieldFault{QStringLiteral("Month1"), kStartMonthNotQuarter, 2};
+    return PeriodFault{QStringLiteral("Month1"), kStartMonthNotQuarter, 2};
   }
   const double span = std::round(to - from);
-  if (span != 0 && span != 2) return FieldFault{QStringLiteral("Month2"), kEndMonthNotQuarter, 2};
+  if (span != 0 && span != 2) return PeriodFault{QStringLiteral("Month2"), kEndMonthNotQuarter, 2};
   return std::nullopt;
 }
 
-std::optional<FieldFault> CheckConPeriod(const QString& month, const QString& year) {
+std::optional<PeriodFault> CheckConPeriod(const QString& month, const QString& year) {
   using namespace texts;
   if (auto fault = CheckMonth(QStringLiteral("ConMonth"), month,
                               {kStartMonthBlank, kStartMonthLength, kStartMonthWrong})) {

@@ -9,15 +9,15 @@
 
 namespace veroxia {
 
-struct FieldFault {
+struct PeriodFault {
   QString field;
   QString message;
   int select_length = 0;
 };
 
 // A month and year, or a quarter of one year (January-March ... October-December).
-std::optional<FieldFault> CheckCommonPeriod(const PeriodTexts& period);
+std::optional<PeriodFault> CheckCommonPeriod(const PeriodTexts& period);
 // The one month and year of a construction declaration.
-std::optional<FieldFault> CheckConPeriod(const QString& month, const QString& year);
+std::optional<PeriodFault> CheckConPeriod(const QString& month, const QString& year);
 
 }  // namespace veroxia

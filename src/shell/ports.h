@@ -14,6 +14,24 @@ namespace veroxia {
 
 enum class AskStyle { Plain, Question };  // Question: question icon, No as default
 
+// What the file chooser asks: its title, the kinds of file it lists
+// ("Name (*.csv);;..."), and whether a file is to be written (a name that
+// exists is asked about before it is overwritten) or read.
+struct FileQuestion {
+  QString title;
+  QString filter;
+  QString suggested;  // the name offered first, for a file to write
+  bool save = false;
+};
+
+// How far a long task has got; the person may stop it.
+class Progress {
+ public:
+  virtual ~Progress() = default;
+  // `done` of `total` is done; false once the user asked to stop.
+  virtual bool Advance(qint64 done, qint64 total) = 0;
+};
+
 // What the insured-person search dialog hands back: the key as typed (empty
 // when the user cancelled) and its kind, "AMA" for a register number or
 // "NAME" for a surname.
@@ -43,6 +61,15 @@ class Dialogs {
   virtual void PrintPreview(const std::function<bool(Printer&)>& draw) = 0;
   // A report in its own window, modal, until the user closes it.
   virtual void ShowReport(const Report& report) = 0;
+  // A report in its own window with a button captioned `go_on` beside the
+  // cancel button: true for that button, false when the window is closed
+  // otherwise.
+  virtual bool ConfirmReport(const Report& report, const QString& go_on) = 0;
+  // The file chooser, modal: the full path chosen, empty when cancelled.
+  virtual QString AskFile(const FileQuestion& question) = 0;
+  // Runs `task` while a progress bar with a cancel button shows `text`; the
+  // windows keep being drawn meanwhile and take no other input.
+  virtual void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) = 0;
 };
 
 // Which main screen is shown; exactly one at a time. Showing a screen closes

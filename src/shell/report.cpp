@@ -1,6 +1,12 @@
 #include "shell/report.h"
 
+#include <QSaveFile>
 #include <algorithm>
+#include <cerrno>
+
+#include "filing/volume_files.h"
+#include "shell/errors.h"
+#include "shell/texts.h"
 
 namespace veroxia {
 
@@ -15,6 +21,20 @@ QStringList ReportText(const Report& report) {
   text << report.notes;
   if (!report.verdict.isEmpty()) text << report.verdict;
   return text;
+}
+
+QString SaveReportText(const Report& report, const QString& path) {
+  QSaveFile file(path);
+  const QByteArray text =
+      "\xEF\xBB\xBF" +
+      (ReportText(report).join(QStringLiteral("\r\n")) + QStringLiteral("\r\n")).toUtf8();
+  errno = 0;
+  if (file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit()) {
+    return {};
+  }
+  const int code = errno != 0 ? errno : static_cast<int>(file.error());
+  return ErrorMessage(texts::kFileNotWritten.arg(path), code,
+                      FileErrorDescription(code, file.errorString()));
 }
 
 }  // namespace veroxia

@@ -27,4 +27,8 @@ struct Report {
 // parted by tabs, then the notes and the verdict.
 QStringList ReportText(const Report& report);
 
+// Writes the report's text to a file at path (UTF-8 with its byte-order mark,
+// CR LF line ends), whole or not at all. Why it could not, or nothing.
+QString SaveReportText(const Report& report, const QString& path);
+
 }  // namespace veroxia

@@ -143,7 +143,7 @@ void StartForm::OkCmd_Click() {
   }
 }
 
-bool StartForm::Report(const std::optional<FieldFault>& fault) {
+bool StartForm::Report(const std::optional<PeriodFault>& fault) {
   if (!fault) return true;
   dialogs_.Message(fault->message, texts::kAppTitle);
   if (fault->select_length > 0) {

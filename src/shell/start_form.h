@@ -63,7 +63,7 @@ class StartForm : public Form {
  private:
   void ChooseKind(const char* table, bool carry_over);
   std::optional<Kind> ChosenKind() const;
-  bool Report(const std::optional<FieldFault>& fault);
+  bool Report(const std::optional<PeriodFault>& fault);
   void Settle(bool carry_over);
   void SetTabStops(const QStringList& names, bool tab_stop);
 

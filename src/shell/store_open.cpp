@@ -33,8 +33,12 @@ QString WriteProblem(const QString& path) {
 }  // namespace
 
 bool OpenStore(Vars& vars, Dialogs& dialogs, std::function<void()> end_program) {
+  return OpenStoreAt(vars, dialogs, StorePath(vars.AppDir), std::move(end_program));
+}
+
+bool OpenStoreAt(Vars& vars, Dialogs& dialogs, const QString& path,
+                 std::function<void()> end_program) {
   if (vars.StoreOpen) return true;
-  const QString path = StorePath(vars.AppDir);
   const auto refuse = [&](const QString& message) {
     vars.StoreConnection.reset();
     vars.Session.reset();

@@ -14,6 +14,9 @@ namespace veroxia {
 // opened; the program then ends. `end_program` ends it when the health check
 // finds the store damaged later.
 bool OpenStore(Vars& vars, Dialogs& dialogs, std::function<void()> end_program = {});
+// The same for the store at `path`.
+bool OpenStoreAt(Vars& vars, Dialogs& dialogs, const QString& path,
+                 std::function<void()> end_program = {});
 
 // Closes the connection if it stands, and lets go of the store.
 void CloseStore(Vars& vars);

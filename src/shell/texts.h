@@ -23,6 +23,8 @@ inline const QString kLabel3 = u"Τέλος περιόδου    ΜΜ        ΕΕ
 inline const QString kLabel6 = u"ΗΜ/ΝΙΑ ΠΕΡΙΟΔΟΥ ΕΡΓΟΥ ΜΜ        ΕΕΕΕ"_s;
 inline const QString kOkCmd = u"ΟΚ"_s;
 inline const QString kCancelCmd = u"Άκυρο"_s;
+// A file the user asked for (a report, an export) that could not be written.
+inline const QString kFileNotWritten = u"ΠΡΟΣΟΧΗ!! Το αρχείο %1 δεν γράφτηκε."_s;
 
 inline const QString kStartMonthBlank = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να συμπληρωθεί."_s;
 inline const QString kStartMonthLength = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να έχει δύο ψηφία ."_s;

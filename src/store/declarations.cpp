@@ -62,6 +62,13 @@ Rows LinesInOrder(Database& db, Kind kind, int id) {
   return Rows(statement);
 }
 
+Rows LinesByNumber(Database& db, Kind kind, int id) {
+  Statement& statement = db.Prepare(
+      Sql("SELECT * FROM %1 WHERE id = ? ORDER BY row_num, rowid", TablesOf(kind).lines, ""));
+  statement.Bind(1, id);
+  return Rows(statement);
+}
+
 Rows InsuredIdsInOrder(Database& db, Kind kind, int id) {
   const KindTables tables = TablesOf(kind);
   Statement& statement = db.Prepare(

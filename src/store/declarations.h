@@ -48,6 +48,8 @@ class Rows {
 };
 Rows HeaderRow(Database& db, Kind kind, int id);
 Rows LinesInOrder(Database& db, Kind kind, int id);
+// The same lines in the order of their numbers (as they were entered).
+Rows LinesByNumber(Database& db, Kind kind, int id);
 // The register numbers of a declaration's lines alone, in the same order.
 Rows InsuredIdsInOrder(Database& db, Kind kind, int id);
 

@@ -94,6 +94,42 @@ class FakeDialogs : public Dialogs {
 
   void ShowReport(const Report& report) override { reports.push_back(report); }
 
+  bool ConfirmReport(const Report& report, const QString& go_on) override {
+    confirmed.push_back(report);
+    confirm_captions << go_on;
+    if (confirms.empty()) return true;
+    const bool answer = confirms.front();
+    confirms.pop_front();
+    return answer;
+  }
+
+  QString AskFile(const FileQuestion& question) override {
+    file_questions.push_back(question);
+    if (files.empty()) return {};
+    const QString answer = files.front();
+    files.pop_front();
+    return answer;
+  }
+
+  // Runs the task; the user stops it at the `stop_at`-th report of progress
+  // (from 1; never when 0), which answers false from then on.
+  void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) override {
+    class Scripted : public Progress {
+     public:
+      explicit Scripted(FakeDialogs& owner) : owner_(owner) {}
+      bool Advance(qint64 done, qint64 total) override {
+        owner_.progress.emplace_back(done, total);
+        return owner_.stop_at == 0 || static_cast<int>(owner_.progress.size()) < owner_.stop_at;
+      }
+
+     private:
+      FakeDialogs& owner_;
+    };
+    progress_texts << text;
+    Scripted progress(*this);
+    task(progress);
+  }
+
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
 
   std::vector<ShownMessage> messages;
@@ -110,6 +146,14 @@ class FakeDialogs : public Dialogs {
   std::vector<CapturePrinter> printers;  // one for each preview, in order
   std::vector<bool> printed;             // what each drawing answered
   int printer_fails_at = -1;             // see CapturePrinter::fails_at
+  std::vector<Report> confirmed;         // reports shown with a button to go on
+  QStringList confirm_captions;
+  std::deque<bool> confirms;  // scripted answers of ConfirmReport; go on when none is left
+  std::vector<FileQuestion> file_questions;
+  std::deque<QString> files;  // scripted answers of the file chooser; cancel when none
+  QStringList progress_texts;
+  std::vector<std::pair<qint64, qint64>> progress;  // every report of progress
+  int stop_at = 0;
 };
 
 class FakeScreens : public Screens {

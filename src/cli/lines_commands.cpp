@@ -1,0 +1,83 @@
+#include "cli/lines_commands.h"
+
+#include <QCoreApplication>
+
+#include "cli/console.h"
+#include "lines/line_import.h"
+#include "lines/line_kinds.h"
+#include "rules/texts.h"
+#include "shell/store_open.h"
+#include "store/declarations.h"
+
+namespace veroxia::cli {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kFailed = 1;
+
+class NoScreens : public Screens {
+ public:
+  void ShowStart() override {}
+  void ShowHeader(Kind) override {}
+  void ShowLines(Kind) override {}
+  void Quit(int) override {}
+};
+
+// The period the screens were opened for, as the header stores it: month
+// then year, as the start screen hands it on.
+void TakePeriod(Vars& vars, Kind kind) {
+  Rows header = HeaderRow(*vars.StoreConnection, kind, vars.DeclarationId);
+  if (!header->Next()) return;
+  const auto text = [&](const char* column) {
+    const int at = header->ColumnIndex(QString::fromLatin1(column));
+    return at < 0 ? QString() : FieldText(header->Value(at));
+  };
+  vars.PeriodFrom = text("from_month") + text("from_year");
+  vars.PeriodTo = kind == Kind::Common ? text("to_month") + text("to_year") : QString();
+}
+
+}  // namespace
+
+bool IsLinesCommand(const QString& command) {
+  return command == u"import" || command == u"export-lines";
+}
+
+QString LinesCommandUsage(const QStringList& args) {
+  if (args.size() != 4) return args[0] + u" needs a kind, an id and a file"_s;
+  Kind kind = Kind::Common;
+  if (!ReadKind(args[1], kind)) return u"the kind is common or construction"_s;
+  bool number = false;
+  const int id = args[2].toInt(&number);
+  if (!number || id < 1 || id > 32767) return u"the id is a number from 1 to 32767"_s;
+  return {};
+}
+
+int RunLinesCommand(const QString& store_path, const QStringList& args) {
+  Kind kind = Kind::Common;
+  ReadKind(args[1], kind);
+  const QString& file = args[3];
+  // Failing rows and wrong check digits are reported on standard error.
+  ConsoleDialogs dialogs(file, stderr);
+  NoScreens screens;
+  Vars vars;
+  vars.AppDir = QCoreApplication::applicationDirPath();
+  if (!OpenStoreAt(vars, dialogs, store_path)) return kFailed;
+  vars.DeclarationId = static_cast<std::int16_t>(args[2].toInt());
+  if (args[0] == u"export-lines") {
+    return ExportLinesTo(*vars.StoreConnection, kind, vars.DeclarationId, dialogs, file) ? 0
+                                                                                         : kFailed;
+  }
+  try {
+    TakePeriod(vars, kind);
+  } catch (const StoreError&) {
+    // The import itself tells the store's error.
+  }
+  const std::unique_ptr<LinesForm> form = MakeLinesForm(kind, vars, dialogs, screens);
+  const bool stored = ImportLines(*form, dialogs, file).has_value();
+  if (vars.Session && !vars.Session->Settle()) return kFailed;
+  return stored ? 0 : kFailed;
+}
+
+}  // namespace veroxia::cli

@@ -1,0 +1,424 @@
+#include "lines/line_import.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+#include <cerrno>
+
+#include "filing/plain_field.h"
+#include "filing/volume_files.h"
+#include "filing/volume_writer.h"
+#include "header/date_box.h"
+#include "lines/import_texts.h"
+#include "lines/line_kinds.h"
+#include "lines/texts.h"
+#include "rules/check_digits.h"
+#include "rules/texts.h"
+#include "shell/errors.h"
+#include "shell/texts.h"
+#include "store/declarations.h"
+
+namespace veroxia {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace import_texts;
+
+// How often the progress is told, in rows.
+constexpr qint64 kProgressRows = 256;
+
+// The box number a field is known by on the screen: "19" for Text19,
+// "18_1" for Text18_1.
+QString BoxOf(const LineField& field) { return field.name.mid(4); }
+
+bool IsDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+
+// What a masked date box can hold typed whole: ##/##/####.
+bool IsDateShape(const QString& text) {
+  if (text.size() != 10) return false;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if ((i == 2 || i == 5) ? text[i] != u'/' : !IsDigit(text[i])) return false;
+  }
+  return true;
+}
+
+// A number written with dots between its thousands, as spreadsheets here
+// show amounts: "1.234.567,89", "-12.000". The screen takes the same number
+// typed without them.
+bool IsGrouped(const QString& text) {
+  const qsizetype comma = text.indexOf(u',');
+  const QString whole = text.left(comma < 0 ? text.size() : comma);
+  const qsizetype from = whole.startsWith(u'-') ? 1 : 0;
+  const qsizetype first_dot = whole.indexOf(u'.');
+  if (first_dot < 0 || first_dot == from || first_dot - from > 3) return false;
+  for (qsizetype i = from; i < whole.size(); ++i) {
+    const bool dot_place = i > first_dot && (i - first_dot) % 4 == 0;
+    if (i == first_dot || dot_place ? whole[i] != u'.' : !IsDigit(whole[i])) return false;
+  }
+  if ((whole.size() - first_dot) % 4 != 0) return false;
+  for (qsizetype i = comma + 1; comma >= 0 && i < text.size(); ++i) {
+    if (!IsDigit(text[i])) return false;
+  }
+  return true;
+}
+
+// The text the field would show for a value of the file, or in `fault` why
+// the field could not hold it.
+QString FieldTextOf(const LineField& field, const QString& value, QString& fault) {
+  if (value.contains(u'\n') || value.contains(u'\r')) {
+    fault = kLineBreak;
+    return {};
+  }
+  if (field.store == StoreAs::Date) {
+    const QString date = value.trimmed();
+    if (date.isEmpty()) return kEmptyDateBox;
+    if (!IsDateShape(date)) fault = kDateShape;
+    return date;
+  }
+  QString text = value;
+  if (field.store == StoreAs::Text && IsGrouped(text)) text.remove(u'.');
+  if (field.max_length > 0 && text.size() > field.max_length) {
+    fault = kTooLong.arg(text.size()).arg(field.max_length);
+  }
+  return text;
+}
+
+// The caption of a field's box as the screen shows it, its runs of blanks
+// made one.
+QString CaptionOf(const LinesLayout& layout, const LineField& field) {
+  QString label = u"Text"_s + BoxOf(field).section(u'_', 0, 0) + u"Lbl"_s;
+  for (const LineCaption& caption : layout.captions) {
+    if (caption.name == label) return caption.text.simplified();
+  }
+  return BoxOf(field);
+}
+
+}  // namespace
+
+LineImport::LineImport(LinesForm& form, QString path)
+    : form_(form), path_(std::move(path)), reader_(path_) {}
+
+LineImport::~LineImport() = default;
+
+QString LineImport::Open() {
+  {
+    veroxia::Rows header = HeaderRow(form_.Store(), form_.Layout().kind, form_.Id());
+    if (!header->Next()) return kNoHeader.arg(form_.Id());
+  }
+  if (QString refusal = reader_.Open(); !refusal.isEmpty()) return refusal;
+  CsvRecord names;
+  if (!reader_.Next(names)) return kEmptyFile.arg(path_);
+  if (QString problem = MapColumns(names.fields); !problem.isEmpty()) return problem;
+  CsvRecord first;
+  if (!reader_.Next(first)) return kHeaderOnly.arg(path_);
+  ahead_.push_back(std::move(first));
+  return {};
+}
+
+QString LineImport::MapColumns(const QStringList& names) {
+  const std::vector<LineField>& fields = form_.Layout().fields;
+  QStringList unknown;
+  QStringList repeated;
+  std::vector<bool> seen(fields.size(), false);
+  for (const QString& raw : names) {
+    const QString name = raw.trimmed();
+    names_ << name;
+    const QString key = name.toLower();
+    int found = -1;
+    for (size_t f = 0; f < fields.size(); ++f) {
+      if (fields[f].column == key || BoxOf(fields[f]).toLower() == key) found = static_cast<int>(f);
+    }
+    if (found < 0) {
+      unknown << (name.isEmpty() ? u"\"\""_s : name);
+    } else if (seen[static_cast<size_t>(found)]) {
+      repeated << name;
+    }
+    if (found >= 0) seen[static_cast<size_t>(found)] = true;
+    field_of_.push_back(found);
+  }
+  QStringList missing;
+  for (size_t f = 0; f < fields.size(); ++f) {
+    if (!seen[f]) missing << fields[f].column + u" ("_s + BoxOf(fields[f]) + u')';
+  }
+  if (unknown.isEmpty() && missing.isEmpty() && repeated.isEmpty()) return {};
+  QStringList message{kColumnsWrong.arg(path_)};
+  if (!unknown.isEmpty()) message << kColumnsUnknown.arg(unknown.join(u", "_s));
+  if (!missing.isEmpty()) message << kColumnsMissing.arg(missing.join(u", "_s));
+  if (!repeated.isEmpty()) message << kColumnsRepeated.arg(repeated.join(u", "_s));
+  message << kColumnsHelp;
+  return message.join(u"\r\n"_s);
+}
+
+Report LineImport::Preview(int rows) {
+  const LinesLayout& layout = form_.Layout();
+  CsvRecord record;
+  while (static_cast<int>(ahead_.size()) < rows && reader_.Next(record)) ahead_.push_back(record);
+  Report report;
+  report.title = kPreviewTitle;
+  report.columns << kPreviewLine;
+  for (size_t c = 0; c < field_of_.size(); ++c) {
+    const LineField& field = layout.fields[static_cast<size_t>(field_of_[c])];
+    report.columns << names_[static_cast<qsizetype>(c)] + u'\n' + CaptionOf(layout, field);
+  }
+  for (const CsvRecord& row : ahead_) {
+    ReportRow shown;
+    shown.cells << QString::number(row.line);
+    shown.cells << row.fields;
+    shown.holds = row.fault.isEmpty() && row.fields.size() == names_.size();
+    report.rows.push_back(shown);
+  }
+  const QString separator = reader_.Separator() == ';' ? u"\";\""_s : u"\",\""_s;
+  report.notes << kPreviewFile.arg(path_).arg(reader_.Size())
+               << kPreviewFormat.arg(CsvEncodingName(reader_.Encoding()), separator)
+               << kPreviewRows.arg(ahead_.size());
+  report.verdict = kPreviewVerdict;
+  return report;
+}
+
+void LineImport::Run(Progress* progress) {
+  try {
+    transaction_.emplace(form_.Store());
+    first_row_num_ = next_row_num_ = form_.NextRowNum();
+    const auto advance = [&] {
+      if (progress != nullptr && rows_ % kProgressRows == 0 &&
+          !progress->Advance(reader_.Position(), reader_.Size())) {
+        cancelled_ = true;
+      }
+      return !cancelled_;
+    };
+    for (const CsvRecord& record : ahead_) {
+      Take(record);
+      if (!advance()) break;
+    }
+    ahead_.clear();
+    CsvRecord record;
+    while (!cancelled_ && reader_.Next(record)) {
+      Take(record);
+      if (!advance()) break;
+    }
+    if (progress != nullptr && !cancelled_) progress->Advance(reader_.Size(), reader_.Size());
+  } catch (const StoreError& error) {
+    store_failure_ = error;
+  }
+  if (cancelled_ || store_failure_ || failed_rows_ > 0) transaction_.reset();
+}
+
+void LineImport::Commit() {
+  if (!transaction_) return;
+  transaction_->Commit();
+  transaction_.reset();
+}
+
+void LineImport::Fault(std::vector<ImportFault>& list, const ImportFault& fault) {
+  if (list.size() < static_cast<size_t>(kKept)) list.push_back(fault);
+}
+
+QString LineImport::ColumnOfField(const QString& field) const {
+  const std::vector<LineField>& fields = form_.Layout().fields;
+  for (size_t c = 0; c < field_of_.size(); ++c) {
+    if (fields[static_cast<size_t>(field_of_[c])].name == field) {
+      return names_[static_cast<qsizetype>(c)];
+    }
+  }
+  return {};
+}
+
+// One row: typed into the fields, checked as the screen checks it, cleaned
+// as the screen stores it, and stored while no row has failed.
+void LineImport::Take(const CsvRecord& record) {
+  ++rows_;
+  const auto fail = [&](const QString& column, const QString& value, const QString& message) {
+    ++failed_rows_;
+    Fault(faults_, {record.line, column, value, message});
+  };
+  if (!record.fault.isEmpty()) {
+    const int at = record.fault_field;
+    const bool named = at >= 0 && at < names_.size();
+    return fail(named ? names_[at] : QString(), at >= 0 ? record.fields.value(at) : QString(),
+                record.fault);
+  }
+  if (record.fields.size() != names_.size()) {
+    return fail({}, {}, kFieldCount.arg(record.fields.size()).arg(names_.size()));
+  }
+  const std::vector<LineField>& fields = form_.Layout().fields;
+  for (qsizetype c = 0; c < names_.size(); ++c) {
+    const LineField& field = fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])];
+    QString fault;
+    QString text = FieldTextOf(field, record.fields[c], fault);
+    if (!fault.isEmpty()) return fail(names_[c], record.fields[c], fault);
+    form_.At(field.name).text = std::move(text);
+  }
+  if (const std::optional<FieldFault> fault = form_.LineFault()) {
+    const QString column = ColumnOfField(fault->field);
+    const qsizetype at = names_.indexOf(column);
+    return fail(column, at >= 0 ? record.fields[at] : QString(), fault->message);
+  }
+  bool warned = false;
+  for (qsizetype c = 0; c < names_.size(); ++c) {
+    const LineField& field = fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])];
+    if (const std::optional<QString> warning = CheckDigitWarning(field.column, record.fields[c])) {
+      Fault(warnings_, {record.line, names_[c], record.fields[c], *warning});
+      warned = true;
+    }
+  }
+  warned_rows_ += warned ? 1 : 0;
+  const ColumnValues values = form_.StoredValues();
+  for (const auto& [column, value] : values) {
+    if (!value) continue;
+    if (const std::optional<QString> bad = FirstUnencodable(*value)) {
+      QString name;
+      for (qsizetype c = 0; c < names_.size() && name.isEmpty(); ++c) {
+        if (fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])].column == column) {
+          name = names_[c];
+        }
+      }
+      const qsizetype at = names_.indexOf(name);
+      return fail(name, at >= 0 ? record.fields[at] : *value, kNotInCodePage.arg(*bad));
+    }
+  }
+  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, values);
+}
+
+Report LineImport::FaultReport() const {
+  Report report;
+  report.title = kReportTitle;
+  report.columns << kReportLine << kReportColumn << kReportValue << kReportMessage;
+  for (const ImportFault& fault : faults_) {
+    report.rows.push_back(
+        {{QString::number(fault.line), fault.column, fault.value, fault.message}, false});
+  }
+  if (failed_rows_ > static_cast<qint64>(faults_.size())) {
+    report.notes << kMoreFaults.arg(faults_.size()).arg(failed_rows_ - faults_.size());
+  }
+  report.verdict = kRowsFailed.arg(failed_rows_).arg(rows_);
+  return report;
+}
+
+Report LineImport::WarningReport() const {
+  Report report;
+  report.title = kWarningsTitle;
+  report.columns << kReportLine << kReportColumn << kReportValue << kReportMessage;
+  for (const ImportFault& warning : warnings_) {
+    report.rows.push_back(
+        {{QString::number(warning.line), warning.column, warning.value, warning.message}, false});
+  }
+  if (warned_rows_ > static_cast<qint64>(warnings_.size())) {
+    report.notes << kMoreFaults.arg(warnings_.size()).arg(warned_rows_ - warnings_.size());
+  }
+  report.verdict = kWarningsVerdict.arg(warned_rows_);
+  return report;
+}
+
+std::optional<int> ImportLines(LinesForm& form, Dialogs& dialogs, QString path) {
+  const auto tell = [&](const QString& text) { dialogs.Message(text, texts::kAppTitle); };
+  const auto store_problem = [&](const StoreError& error) {
+    tell(ErrorMessage(lines_texts::kStoreProblem, error) + u"\r\n"_s + kNothingStored);
+    return std::nullopt;
+  };
+  if (path.isEmpty()) path = dialogs.AskFile({kImportTitle, kCsvFilter, {}, false});
+  if (path.isEmpty()) return std::nullopt;
+  LineImport import(form, path);
+  try {
+    if (const QString refusal = import.Open(); !refusal.isEmpty()) {
+      tell(refusal);
+      return std::nullopt;
+    }
+  } catch (const StoreError& error) {
+    return store_problem(error);
+  }
+  if (!dialogs.ConfirmReport(import.Preview(), kPreviewGo)) return std::nullopt;
+  dialogs.RunWithProgress(kProgress.arg(QFileInfo(path).fileName()),
+                          [&](Progress& progress) { import.Run(&progress); });
+  if (import.StoreFailure()) return store_problem(*import.StoreFailure());
+  if (import.Cancelled()) {
+    tell(kCancelled);
+    return std::nullopt;
+  }
+  if (import.FailedRows() > 0) {
+    dialogs.ShowReport(import.FaultReport());
+    return std::nullopt;
+  }
+  if (import.WarnedRows() > 0) {
+    dialogs.ShowReport(import.WarningReport());
+    if (!dialogs.Ask(kWarningsQuestion.arg(import.WarnedRows()), texts::kAppTitle,
+                     AskStyle::Question)) {
+      tell(kNothingStored);
+      return std::nullopt;
+    }
+  }
+  try {
+    import.Commit();
+  } catch (const StoreError& error) {
+    return store_problem(error);
+  }
+  tell(kImported.arg(import.Rows()).arg(import.FirstRowNum()).arg(import.LastRowNum()));
+  return import.FirstRowNum();
+}
+
+int ExportLines(Database& db, Kind kind, int id, const QString& path) {
+  const LinesLayout& layout = LinesLayoutOf(kind);
+  QSaveFile file(path);
+  const auto fail = [&] {
+    const int code = errno != 0 ? errno : static_cast<int>(file.error());
+    throw FileError{code, FileErrorDescription(code, file.errorString())};
+  };
+  errno = 0;
+  if (!file.open(QIODevice::WriteOnly)) fail();
+  QStringList names;
+  for (const LineField& field : layout.fields) names << field.column;
+  QByteArray out = "\xEF\xBB\xBF" + CsvLine(names, ';');
+  int count = 0;
+  {
+    Rows lines = LinesByNumber(db, kind, id);
+    std::vector<int> columns;
+    for (const LineField& field : layout.fields)
+      columns.push_back(lines->ColumnIndex(field.column));
+    QStringList values;
+    while (lines->Next()) {
+      values.clear();
+      for (size_t f = 0; f < layout.fields.size(); ++f) {
+        const LineField& field = layout.fields[f];
+        const QString stored = FieldText(lines->Value(columns[f]));
+        if (!field.choices.isEmpty()) {
+          values << (stored.toUpper() == u"1"_s ? field.choices.value(0) : field.choices.value(1));
+        } else {
+          values << stored;
+        }
+      }
+      out += CsvLine(values, ';');
+      ++count;
+      if (out.size() > (1 << 20)) {
+        if (file.write(out) != out.size()) fail();
+        out.clear();
+      }
+    }
+  }
+  if (file.write(out) != out.size() || !file.commit()) fail();
+  return count;
+}
+
+bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString path) {
+  if (path.isEmpty()) {
+    const QString suggested =
+        u"%1-%2.csv"_s.arg(kind == Kind::Common ? u"lines"_s : u"workers"_s).arg(id);
+    path = dialogs.AskFile({kExportTitle, kCsvFilter, suggested, true});
+  }
+  if (path.isEmpty()) return false;
+  QString outcome;
+  int count = -1;
+  {
+    BusyPointer busy(dialogs);
+    try {
+      count = ExportLines(db, kind, id, path);
+    } catch (const StoreError& error) {
+      outcome = ErrorMessage(texts::kFileNotWritten.arg(path), error);
+    } catch (const FileError& error) {
+      outcome = ErrorMessage(texts::kFileNotWritten.arg(path), error.code, error.description);
+    }
+  }
+  if (count >= 0) outcome = kExported.arg(count).arg(path);
+  dialogs.Message(outcome, texts::kAppTitle);
+  return count >= 0;
+}
+
+}  // namespace veroxia
