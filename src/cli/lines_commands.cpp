@@ -75,7 +75,7 @@ int RunLinesCommand(const QString& store_path, const QStringList& args) {
     // The import itself tells the store's error.
   }
   const std::unique_ptr<LinesForm> form = MakeLinesForm(kind, vars, dialogs, screens);
-  const bool stored = ImportLines(*form, dialogs, file).has_value();
+  const bool stored = ImportLines(*form, dialogs, file);
   if (vars.Session && !vars.Session->Settle()) return kFailed;
   return stored ? 0 : kFailed;
 }

@@ -34,6 +34,15 @@ const QColor kFault(0xb0, 0x00, 0x00);
 // Lines of notes shown without scrolling.
 constexpr int kNoteLines = 6;
 
+// A number as the reports write them: digits, with dots, commas and signs.
+bool IsFigure(const QString& text) {
+  if (text.isEmpty()) return false;
+  for (const QChar c : text) {
+    if (!c.isDigit() && c != u'.' && c != u',' && c != u'-' && c != u'+') return false;
+  }
+  return true;
+}
+
 QTableWidget* Table(QWidget* parent, const Report& report) {
   auto* table = new QTableWidget(static_cast<int>(report.rows.size()),
                                  static_cast<int>(report.columns.size()), parent);
@@ -49,10 +58,9 @@ QTableWidget* Table(QWidget* parent, const Report& report) {
     const ReportRow& row = report.rows[static_cast<size_t>(r)];
     for (int c = 0; c < table->columnCount(); ++c) {
       auto* cell = new QTableWidgetItem(row.cells.value(c));
-      // The label reads from the left, the figures line up on the right.
-      cell->setTextAlignment(c == 0 || c == table->columnCount() - 1
-                                 ? Qt::AlignLeft | Qt::AlignVCenter
-                                 : Qt::AlignRight | Qt::AlignVCenter);
+      // Words read from the left, figures line up on the right.
+      cell->setTextAlignment((IsFigure(row.cells.value(c)) ? Qt::AlignRight : Qt::AlignLeft) |
+                             Qt::AlignVCenter);
       if (!row.holds) {
         cell->setForeground(kFault);
         cell->setFont(marked);
@@ -103,9 +111,18 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report, const QString& 
                               : QGuiApplication::primaryScreen();
   const QRect room = screen != nullptr ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
 
+  for (const QString& line : report.about) {
+    auto* about = new QLabel(line, window);
+    about->setObjectName(u"ReportAbout"_s);
+    about->setTextFormat(Qt::PlainText);
+    column->addWidget(about);
+  }
   QTableWidget* table = Table(window, report);
   const QSize needed = TableRoom(*table, room.height() / 2);
-  table->setMinimumSize(std::min(needed.width(), room.width() - 60), needed.height());
+  const int width = std::min(needed.width(), room.width() - 60);
+  // A table cut short on the right scrolls: its bar takes room of its own.
+  const int bar = width < needed.width() ? table->horizontalScrollBar()->sizeHint().height() : 0;
+  table->setMinimumSize(width, needed.height() + bar);
   column->addWidget(table, 1);
 
   if (!report.notes.isEmpty()) {

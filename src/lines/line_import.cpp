@@ -168,7 +168,7 @@ Report LineImport::Preview(int rows) {
     report.rows.push_back(shown);
   }
   const QString separator = reader_.Separator() == ';' ? u"\";\""_s : u"\",\""_s;
-  report.notes << kPreviewFile.arg(path_).arg(reader_.Size())
+  report.about << kPreviewFile.arg(path_).arg(reader_.Size())
                << kPreviewFormat.arg(CsvEncodingName(reader_.Encoding()), separator)
                << kPreviewRows.arg(ahead_.size());
   report.verdict = kPreviewVerdict;
@@ -196,7 +196,10 @@ void LineImport::Run(Progress* progress) {
       Take(record);
       if (!advance()) break;
     }
-    if (progress != nullptr && !cancelled_) progress->Advance(reader_.Size(), reader_.Size());
+    // A stop asked for at the very end still stops: nothing is kept yet.
+    if (progress != nullptr && !cancelled_ && !progress->Advance(reader_.Size(), reader_.Size())) {
+      cancelled_ = true;
+    }
   } catch (const StoreError& error) {
     store_failure_ = error;
   }
@@ -309,41 +312,42 @@ Report LineImport::WarningReport() const {
   return report;
 }
 
-std::optional<int> ImportLines(LinesForm& form, Dialogs& dialogs, QString path) {
+bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,
+                 const std::function<void(int first)>& stored) {
   const auto tell = [&](const QString& text) { dialogs.Message(text, texts::kAppTitle); };
   const auto store_problem = [&](const StoreError& error) {
     tell(ErrorMessage(lines_texts::kStoreProblem, error) + u"\r\n"_s + kNothingStored);
-    return std::nullopt;
+    return false;
   };
   if (path.isEmpty()) path = dialogs.AskFile({kImportTitle, kCsvFilter, {}, false});
-  if (path.isEmpty()) return std::nullopt;
+  if (path.isEmpty()) return false;
   LineImport import(form, path);
   try {
     if (const QString refusal = import.Open(); !refusal.isEmpty()) {
       tell(refusal);
-      return std::nullopt;
+      return false;
     }
   } catch (const StoreError& error) {
     return store_problem(error);
   }
-  if (!dialogs.ConfirmReport(import.Preview(), kPreviewGo)) return std::nullopt;
+  if (!dialogs.ConfirmReport(import.Preview(), kPreviewGo)) return false;
   dialogs.RunWithProgress(kProgress.arg(QFileInfo(path).fileName()),
                           [&](Progress& progress) { import.Run(&progress); });
   if (import.StoreFailure()) return store_problem(*import.StoreFailure());
   if (import.Cancelled()) {
     tell(kCancelled);
-    return std::nullopt;
+    return false;
   }
   if (import.FailedRows() > 0) {
     dialogs.ShowReport(import.FaultReport());
-    return std::nullopt;
+    return false;
   }
   if (import.WarnedRows() > 0) {
     dialogs.ShowReport(import.WarningReport());
     if (!dialogs.Ask(kWarningsQuestion.arg(import.WarnedRows()), texts::kAppTitle,
                      AskStyle::Question)) {
       tell(kNothingStored);
-      return std::nullopt;
+      return false;
     }
   }
   try {
@@ -351,8 +355,9 @@ std::optional<int> ImportLines(LinesForm& form, Dialogs& dialogs, QString path) 
   } catch (const StoreError& error) {
     return store_problem(error);
   }
+  if (stored) stored(import.FirstRowNum());
   tell(kImported.arg(import.Rows()).arg(import.FirstRowNum()).arg(import.LastRowNum()));
-  return import.FirstRowNum();
+  return true;
 }
 
 int ExportLines(Database& db, Kind kind, int id, const QString& path) {

@@ -11,6 +11,7 @@
 // row: memory does not grow with it.
 
 #include <QString>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -96,9 +97,11 @@ class LineImport {
 
 // The import as the user meets it: the file chooser unless `path` is given,
 // the preview, the progress bar, then the report of every failing row, or
-// the question on wrong check digits, and the outcome. Answers the number of
-// the first line stored, nothing when nothing was stored.
-std::optional<int> ImportLines(LinesForm& form, Dialogs& dialogs, QString path = {});
+// the question on wrong check digits, and the outcome. Once lines are
+// stored, `stored` is given the number of the first before the user is told.
+// True when lines were stored.
+bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path = {},
+                 const std::function<void(int first)>& stored = {});
 
 // Writes the declaration's lines, in the order of their numbers, to a CSV file
 // of the shape the import reads: UTF-8 with its byte-order mark, ";" between

@@ -399,18 +399,18 @@ void LinesForm::DeleteLine() {
 
 void LinesForm::ImportCmd_Click() {
   // A screen of the same kind reads the file's rows, so that the fields here
-  // keep what they show until lines were stored.
+  // keep what they show unless lines are stored.
   const std::unique_ptr<LinesForm> reader = MakeLinesForm(layout_.kind, vars_, dialogs_, screens_);
-  const std::optional<int> first = ImportLines(*reader, dialogs_);
-  if (!first) return;
-  // The first line brought in is shown, in browse mode.
-  current_row_num_ = QString::number(*first);
-  has_lines_ = true;
-  edit_mode_ = false;
-  new_mode_ = false;
-  SetBrowseButtons();
-  ShowRememberedLine();
-  if (has_lines_) EnableLineFields(false);
+  ImportLines(*reader, dialogs_, {}, [this](int first) {
+    // The first line brought in is shown, in browse mode.
+    current_row_num_ = QString::number(first);
+    has_lines_ = true;
+    edit_mode_ = false;
+    new_mode_ = false;
+    SetBrowseButtons();
+    ShowRememberedLine();
+    if (has_lines_) EnableLineFields(false);
+  });
 }
 
 void LinesForm::ExportCmd_Click() { ExportLinesTo(Store(), layout_.kind, Id(), dialogs_); }

@@ -16,7 +16,8 @@ bool Report::AllHold() const {
 }
 
 QStringList ReportText(const Report& report) {
-  QStringList text{report.columns.join(u'\t')};
+  QStringList text = report.about;
+  text << report.columns.join(u'\t');
   for (const ReportRow& row : report.rows) text << row.cells.join(u'\t');
   text << report.notes;
   if (!report.verdict.isEmpty()) text << report.verdict;

@@ -16,6 +16,7 @@ struct ReportRow {
 
 struct Report {
   QString title;        // of the window
+  QStringList about;    // what the report is of, above the table
   QStringList columns;  // the table's headings
   std::vector<ReportRow> rows;
   QStringList notes;  // findings that are not rows of the table
@@ -23,8 +24,8 @@ struct Report {
   bool AllHold() const;
 };
 
-// The report as lines of text: the headings and each row with the columns
-// parted by tabs, then the notes and the verdict.
+// The report as lines of text: what it is of, the headings and each row with
+// the columns parted by tabs, then the notes and the verdict.
 QStringList ReportText(const Report& report);
 
 // Writes the report's text to a file at path (UTF-8 with its byte-order mark,

@@ -1,0 +1,268 @@
+// Employee lines from CSV files: how a file is read, every row through the
+// screen's own checks, all stored or none, and the road the user takes.
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "lines/import_texts.h"
+#include "lines/line_import.h"
+#include "lines/line_kinds.h"
+#include "lines/ovt_form2.h"
+#include "ovt_form2_fixture.h"
+#include "rules/check_texts.h"
+#include "support/lines_csv.h"
+#include "support/store_rows.h"
+
+namespace veroxia::testing {
+namespace {
+
+using namespace import_texts;
+TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
+  const struct {
+    QByteArray bytes;
+    CsvEncoding encoding;
+    char separator;
+    std::vector<QStringList> records;
+    std::vector<qint64> lines;
+    QString fault;  // of the last record
+    int fault_field = -1;
+  } cases[] = {
+      {"a;b\r\n1;2\r\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2"}}, {1, 2}, {}},
+      {"\xEF\xBB\xBF"
+       "a,b\n\"x,\"\"y\"\"\",2\n",
+       CsvEncoding::kUtf8Bom,
+       ',',
+       {{"a", "b"}, {"x,\"y\"", "2"}},
+       {1, 2},
+       {}},
+      {"a;b\r\n\xD0\xC1\xD0\xC1;\xE1\xDC\r\n",
+       CsvEncoding::kWindows1253,
+       ';',
+       {{"a", "b"}, {u"ΠΑΠΑ"_s, u"αά"_s}},
+       {1, 2},
+       {}},
+      // A line break inside quotes; empty lines and lines of empty fields
+      // passed over; the last line without its end.
+      {"a;b\n\"1\r\n2\";3\n\n;\n4;5",
+       CsvEncoding::kUtf8,
+       ';',
+       {{"a", "b"}, {"1\r\n2", "3"}, {"4", "5"}},
+       {1, 2, 6},
+       {}},
+      // UTF-8 throughout but for one stray byte: that field is at fault.
+      {"a;b\n\xCE\x91\xCE\xBB;\xFF\n",
+       CsvEncoding::kUtf8,
+       ';',
+       {{"a", "b"}, {u"Αλ"_s, u"\uFFFD"_s}},
+       {1, 2},
+       kBadBytes.arg(u"UTF-8"_s, u"FF"_s),
+       1},
+      {"a;b\n1;\"2\n3;4\n",
+       CsvEncoding::kUtf8,
+       ';',
+       {{"a", "b"}, {"1", "2\n3;4\n"}},
+       {1, 2},
+       kUnclosedQuote,
+       1},
+      {"a;b\n\"1\"x;2\n",
+       CsvEncoding::kUtf8,
+       ';',
+       {{"a", "b"}, {"1x", "2"}},
+       {1, 2},
+       kTextAfterQuote,
+       0},
+  };
+  QTemporaryDir dir;
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.bytes.toStdString());
+    const QString path = dir.filePath(u"a.csv"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.bytes) == c.bytes.size());
+    file.close();
+    CsvReader reader(path);
+    ASSERT_EQ(reader.Open(), QString());
+    EXPECT_EQ(reader.Encoding(), c.encoding);
+    EXPECT_EQ(reader.Separator(), c.separator);
+    std::vector<QStringList> records;
+    std::vector<qint64> lines;
+    CsvRecord record;
+    while (reader.Next(record)) {
+      records.push_back(record.fields);
+      lines.push_back(record.line);
+    }
+    EXPECT_EQ(records, c.records);
+    EXPECT_EQ(lines, c.lines);
+    EXPECT_EQ(record.fault, c.fault);
+    EXPECT_EQ(record.fault_field, c.fault_field);
+    EXPECT_EQ(reader.Position(), reader.Size());
+  }
+  // Files that are no text of either encoding are refused whole.
+  const std::pair<QByteArray, QString> refused[] = {
+      {QByteArray("\xFF\xFE"
+                  "a\0;\0",
+                  6),
+       u"UTF-16"_s},
+      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)},
+  };
+  for (const auto& [bytes, why] : refused) {
+    const QString path = dir.filePath(u"b.csv"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    EXPECT_EQ(CsvReader(path).Open(), kNotText.arg(path, why));
+  }
+}
+
+class LineImportTest : public ::testing::Test {
+ protected:
+  LineImportTest() {
+    store_.vars.PeriodFrom = u"012002"_s;
+    store_.vars.PeriodTo = u"032002"_s;
+    db_.Exec(
+        "INSERT INTO QOR_EMPLOYERS (id) VALUES (1), (2); "
+        "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '1')");
+  }
+
+  // Imports the CSV text into declaration `id` of the common kind through
+  // the fake person; true when lines were stored.
+  bool Import(const QByteArray& csv, int id = 1) {
+    const QString path = dir_.filePath(u"lines.csv"_s);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size());
+    file.close();
+    store_.vars.DeclarationId = static_cast<std::int16_t>(id);
+    dialogs_.files.push_back(path);
+    const auto form = MakeLinesForm(Kind::Common, store_.vars, dialogs_, screens_);
+    return ImportLines(*form, dialogs_);
+  }
+
+  std::vector<std::vector<Text>> Stored() { return DumpTable(db_, "QOR_EMPLOYEES"); }
+
+  QTemporaryDir dir_;
+  TempStore store_;
+  Database& db_ = store_.Open();
+  FakeDialogs dialogs_;
+  FakeScreens screens_;
+};
+
+// Every row that fails is reported with its line, column, value and the
+// check's own message, and nothing at all is stored; without those rows the
+// same file is stored whole, numbered on, its values cleaned as the screen
+// cleans them.
+TEST_F(LineImportTest, AllRowsOrNoneAndEveryFailingRowReported) {
+  const Line good = ValidCommonLine(u"123456780"_s, u"Καΐρης; \"Γ\""_s);
+  Line few = good;
+  few.pop_back();
+  const std::vector<std::pair<Line, ImportFault>> rows{
+      {good, {}},
+      {With(good, u"Text39"_s, u"12,345"_s),
+       {3, u"salary"_s, u"12,345"_s, check_texts::kTwoDecimals}},
+      {With(good, u"Text21"_s, QString(51, u'Α')),
+       {4, u"surname"_s, QString(51, u'Α'), kTooLong.arg(51).arg(50)}},
+      {With(good, u"Text25"_s, u"5/3/1970"_s), {5, u"birth_date"_s, u"5/3/1970"_s, kDateShape}},
+      {With(good, u"Text22"_s, u"Жора"_s), {6, u"name"_s, u"Жора"_s, kNotInCodePage.arg(u"Ж"_s)}},
+      {few, {7, {}, {}, kFieldCount.arg(30).arg(31)}},
+      {With(good, u"Text39"_s, u"12.345,6"_s), {}},  // thousands parted by dots
+  };
+  std::vector<Line> lines;
+  std::vector<ImportFault> expected;
+  for (const auto& [line, fault] : rows) {
+    lines.push_back(line);
+    if (fault.line > 0) expected.push_back(fault);
+  }
+  const auto before = Stored();
+  EXPECT_FALSE(Import(Csv(Kind::Common, lines)));
+  EXPECT_EQ(Stored(), before);
+  ASSERT_EQ(dialogs_.reports.size(), 1u);
+  const Report& report = dialogs_.reports[0];
+  EXPECT_EQ(report.verdict, kRowsFailed.arg(5).arg(7));
+  ASSERT_EQ(report.rows.size(), expected.size());
+  for (size_t i = 0; i < expected.size(); ++i) {
+    const ImportFault& f = expected[i];
+    EXPECT_EQ(report.rows[i].cells,
+              (QStringList{QString::number(f.line), f.column, f.value, f.message}));
+  }
+
+  lines = {rows[0].first, rows[6].first};
+  EXPECT_TRUE(Import(Csv(Kind::Common, lines)));
+  EXPECT_EQ(dialogs_.LastMessage(), kImported.arg(2).arg(2).arg(3));
+  const auto stored = SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", 1);
+  ASSERT_EQ(stored.size(), 3u);
+  const EmployeeRow& last = stored[2];
+  EXPECT_EQ(last.row_num, 3);
+  EXPECT_EQ(last.surname, u"ΚΑΪΡΗΣ; \"Γ\""_s);
+  EXPECT_EQ(last.full_day, u"1"_s);
+  EXPECT_EQ(last.all_days, u"0"_s);
+  EXPECT_EQ(last.sal_from, QString());
+  EXPECT_EQ(last.salary, u"12345,6"_s);
+}
+
+// The road through the dialogs: what the user is shown and asked at each
+// step, and that only the last step stores anything.
+TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
+  const QByteArray valid = Csv(Kind::Common, {ValidCommonLine(), ValidCommonLine()});
+  const auto before = Stored();
+
+  EXPECT_FALSE(Import("insured_id;19;nothing\n1;2;3\n"));
+  const QString columns = dialogs_.LastMessage();
+  EXPECT_TRUE(columns.startsWith(kColumnsWrong.arg(dir_.filePath(u"lines.csv"_s))));
+  EXPECT_TRUE(columns.contains(kColumnsUnknown.arg(u"nothing"_s)));
+  EXPECT_TRUE(columns.contains(kColumnsRepeated.arg(u"19"_s)));
+  EXPECT_TRUE(
+      columns.contains(kColumnsMissing.arg(u"emp_branch_id (18_1), kad (18_2), amka (20),"_s)));
+  EXPECT_FALSE(Import(valid.left(valid.indexOf('\n') + 1)));
+  EXPECT_EQ(dialogs_.LastMessage(), kHeaderOnly.arg(dir_.filePath(u"lines.csv"_s)));
+  EXPECT_FALSE(Import(valid, 7));
+  EXPECT_EQ(dialogs_.LastMessage(), kNoHeader.arg(7));
+
+  dialogs_.confirms.push_back(false);  // the preview, declined
+  EXPECT_FALSE(Import(valid));
+  ASSERT_FALSE(dialogs_.confirmed.empty());
+  EXPECT_EQ(dialogs_.confirmed.back().rows.size(), 2u);
+  EXPECT_EQ(dialogs_.confirm_captions.back(), kPreviewGo);
+  EXPECT_TRUE(dialogs_.progress_texts.isEmpty());
+
+  dialogs_.stop_at = 1;  // the cancel button of the progress bar
+  EXPECT_FALSE(Import(valid));
+  EXPECT_EQ(dialogs_.LastMessage(), kCancelled);
+  dialogs_.stop_at = 0;
+
+  // A tax number with a wrong check digit is shown and asked about once.
+  const QByteArray warned =
+      Csv(Kind::Common, {ValidCommonLine(), With(ValidCommonLine(), u"Text26"_s, u"094014202"_s)});
+  EXPECT_FALSE(Import(warned));
+  EXPECT_EQ(dialogs_.reports.back().rows.size(), 1u);
+  EXPECT_EQ(dialogs_.reports.back().rows[0].cells.first(2),
+            (QStringList{u"3"_s, u"taxation_id"_s}));
+  EXPECT_EQ(dialogs_.LastMessage(), kNothingStored);
+  EXPECT_EQ(Stored(), before);
+  dialogs_.answers.push_back(true);
+  EXPECT_TRUE(Import(warned));
+  EXPECT_EQ(dialogs_.questions.size(), 2u);
+  EXPECT_EQ(Stored().size(), before.size() + 2);
+}
+
+// On the screen: the import waits for new or browse mode, and the first
+// line brought in is shown, in browse mode, before the user is told.
+TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
+  store_.vars.DeclarationId = 2;
+  OvtForm2 form(store_.vars, dialogs_, screens_);
+  form.Load();
+  EXPECT_TRUE(form.At(u"ImportCmd"_s).enabled && form.NewMode());
+  const QString path = dir_.filePath(u"lines.csv"_s);
+  QFile file(path);
+  const QByteArray csv = Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)});
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size());
+  file.close();
+  dialogs_.files.push_back(path);
+  form.ImportCmd_Click();
+  EXPECT_EQ(form.Text(u"Text21"_s), u"ΑΛΦΑ"_s);
+  EXPECT_TRUE(form.At(u"NewCmd"_s).visible && !form.At(u"Text21"_s).enabled);
+  form.UpDateCmd_Click();
+  EXPECT_FALSE(form.At(u"ImportCmd"_s).enabled || form.At(u"ExportCmd"_s).enabled);
+}
+
+}  // namespace
+}  // namespace veroxia::testing
