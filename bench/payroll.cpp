@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include "rules/check_digits.h"
 #include "store/rows.h"
 #include "store/schema.h"
 #include "store/store_file.h"
@@ -36,6 +37,15 @@ QString PayrollSurname(int person) {
 }
 
 namespace {
+
+// The number made of `prefix` and the one last digit for which the check
+// digit holds: the payroll's tax numbers and AMKA are right ones.
+QString WithCheckDigit(const QString& prefix, bool (*holds)(const QString&)) {
+  for (char digit = '0'; digit <= '9'; ++digit) {
+    if (holds(prefix + QLatin1Char(digit))) return prefix + QLatin1Char(digit);
+  }
+  return prefix + u'0';
+}
 
 // The same person's line in a construction-works declaration.
 ConEmployeeRow WorkerLine(const EmployeeRow& line) {
@@ -106,13 +116,13 @@ void MakePayrollStore(const QString& path, int lines, int persons) {
       row.emp_branch_id = u"0001"_s;
       row.kad = u"5510"_s;
       row.insured_id = PayrollInsuredId(person);
-      row.amka = QString::number(10'000'000'000LL + person);
+      row.amka = WithCheckDigit(QString::number(1'000'000'000LL + person), AmkaCheckDigitHolds);
       row.surname = PayrollSurname(person);
       row.name = u"ΓΕΩΡΓΙΟΣ"_s;
       row.father_name = u"ΝΙΚΟΛΑΟΣ"_s;
       row.mother_name = u"ΜΑΡΙΑ"_s;
       row.birth_date = u"05/03/1970"_s;
-      row.taxation_id = QString::number(100'000'000 + person);
+      row.taxation_id = WithCheckDigit(QString::number(10'000'000 + person), AfmCheckDigitHolds);
       row.full_day = u"1"_s;
       row.all_days = u"1"_s;
       row.sundays_sum = u"0"_s;

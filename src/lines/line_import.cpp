@@ -140,7 +140,15 @@ QString LineImport::MapColumns(const QStringList& names) {
   for (size_t f = 0; f < fields.size(); ++f) {
     if (!seen[f]) missing << fields[f].column + u" ("_s + BoxOf(fields[f]) + u')';
   }
-  if (unknown.isEmpty() && missing.isEmpty() && repeated.isEmpty()) return {};
+  if (unknown.isEmpty() && missing.isEmpty() && repeated.isEmpty()) {
+    column_of_field_.assign(fields.size(), 0);
+    for (size_t c = 0; c < field_of_.size(); ++c) {
+      const auto f = static_cast<size_t>(field_of_[c]);
+      boxes_.push_back(&form_.At(fields[f].name));
+      column_of_field_[f] = static_cast<int>(c);
+    }
+    return {};
+  }
   QStringList message{kColumnsWrong.arg(path_)};
   if (!unknown.isEmpty()) message << kColumnsUnknown.arg(unknown.join(u", "_s));
   if (!missing.isEmpty()) message << kColumnsMissing.arg(missing.join(u", "_s));
@@ -218,10 +226,8 @@ void LineImport::Fault(std::vector<ImportFault>& list, const ImportFault& fault)
 
 QString LineImport::ColumnOfField(const QString& field) const {
   const std::vector<LineField>& fields = form_.Layout().fields;
-  for (size_t c = 0; c < field_of_.size(); ++c) {
-    if (fields[static_cast<size_t>(field_of_[c])].name == field) {
-      return names_[static_cast<qsizetype>(c)];
-    }
+  for (size_t f = 0; f < fields.size(); ++f) {
+    if (fields[f].name == field) return names_[column_of_field_[f]];
   }
   return {};
 }
@@ -249,7 +255,7 @@ void LineImport::Take(const CsvRecord& record) {
     QString fault;
     QString text = FieldTextOf(field, record.fields[c], fault);
     if (!fault.isEmpty()) return fail(names_[c], record.fields[c], fault);
-    form_.At(field.name).text = std::move(text);
+    boxes_[static_cast<size_t>(c)]->text = std::move(text);
   }
   if (const std::optional<FieldFault> fault = form_.LineFault()) {
     const QString column = ColumnOfField(fault->field);
@@ -265,21 +271,15 @@ void LineImport::Take(const CsvRecord& record) {
     }
   }
   warned_rows_ += warned ? 1 : 0;
-  const ColumnValues values = form_.StoredValues();
-  for (const auto& [column, value] : values) {
-    if (!value) continue;
-    if (const std::optional<QString> bad = FirstUnencodable(*value)) {
-      QString name;
-      for (qsizetype c = 0; c < names_.size() && name.isEmpty(); ++c) {
-        if (fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])].column == column) {
-          name = names_[c];
-        }
-      }
-      const qsizetype at = names_.indexOf(name);
-      return fail(name, at >= 0 ? record.fields[at] : *value, kNotInCodePage.arg(*bad));
+  const LineTexts texts = form_.StoredTexts();
+  for (size_t f = 0; f < texts.size(); ++f) {
+    if (!texts[f]) continue;
+    if (const std::optional<QString> bad = FirstUnencodable(*texts[f])) {
+      const int c = column_of_field_[f];
+      return fail(names_[c], record.fields[c], kNotInCodePage.arg(*bad));
     }
   }
-  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, values);
+  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, texts);
 }
 
 Report LineImport::FaultReport() const {

@@ -3,7 +3,7 @@
 //
 // Each row of the file is typed into the fields of a line screen of the
 // declaration's kind and goes through that screen's own checks and its own
-// cleaning of the values (LinesForm::LineFault, StoredValues): what the
+// cleaning of the values (LinesForm::LineFault, StoredTexts): what the
 // screen would refuse, the import refuses with the same message. The rows
 // are stored, numbered on from the declaration's last line, in one
 // transaction that is kept only when every row passed; otherwise nothing is
@@ -80,9 +80,11 @@ class LineImport {
   LinesForm& form_;
   QString path_;
   CsvReader reader_;
-  QStringList names_;             // the columns as the file names them
-  std::vector<int> field_of_;     // the layout field of each column
-  std::vector<CsvRecord> ahead_;  // rows read before Run (the preview)
+  QStringList names_;                 // the columns as the file names them
+  std::vector<int> field_of_;         // the layout field of each column
+  std::vector<Control*> boxes_;       // the form's control of each column
+  std::vector<int> column_of_field_;  // the column of each layout field
+  std::vector<CsvRecord> ahead_;      // rows read before Run (the preview)
   std::optional<Transaction> transaction_;
   std::optional<StoreError> store_failure_;
   bool cancelled_ = false;

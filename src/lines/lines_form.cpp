@@ -292,13 +292,13 @@ void LinesForm::GotFocus(const QString& name) {
   SetFocus(name);
 }
 
-ColumnValues LinesForm::StoredValues() const {
-  ColumnValues values;
+LineTexts LinesForm::StoredTexts() const {
+  LineTexts texts;
+  texts.reserve(layout_.fields.size());
   for (const LineField& field : layout_.fields) {
-    values[field.column.toLower()] =
-        StoredText(field.store, Text(field.name), field.choices.value(0));
+    texts.emplace_back(StoredText(field.store, Text(field.name), field.choices.value(0)));
   }
-  return values;
+  return texts;
 }
 
 void LinesForm::ShowStoreError(const StoreError& error) {
@@ -319,11 +319,11 @@ int LinesForm::NextRowNum() {
 void LinesForm::InsertData() {
   std::optional<BusyPointer> busy(std::in_place, dialogs_);
   if (!CheckLine() || !ConfirmCheckDigits(*this, dialogs_, layout_.fields)) return;
-  const ColumnValues values = StoredValues();
+  const LineTexts texts = StoredTexts();
   int row_num = 0;
   try {
     row_num = NextRowNum();
-    InsertLine(Id(), row_num, values);
+    InsertLine(Id(), row_num, texts);
   } catch (const StoreError& error) {
     busy.reset();
     ShowStoreError(error);
@@ -345,7 +345,7 @@ void LinesForm::UpdateLine() {
                             current_insured_id_};
   int changed = 0;
   try {
-    changed = UpdateLineRow(address, StoredValues());
+    changed = UpdateLineRow(address, StoredTexts());
   } catch (const StoreError& error) {
     busy.reset();
     ShowStoreError(error);

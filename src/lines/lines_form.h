@@ -30,6 +30,9 @@ std::optional<ColumnValues> LineColumnValues(const std::optional<StoredLine<Row>
   return values;
 }
 
+// What a line's fields store, in the order of the layout's fields.
+using LineTexts = std::vector<Text>;
+
 class LinesForm : public Form {
  public:
   // Outer size and place of either kind's window, in twips; the size never
@@ -77,13 +80,13 @@ class LinesForm : public Form {
   // The first rule the line in the fields breaks, nothing when it may be
   // stored. Nothing is shown.
   std::optional<FieldFault> LineFault() { return FirstFault(Checks()); }
-  // What each column stores of the fields: names cleaned, flags and dates as
-  // the kind stores them.
-  ColumnValues StoredValues() const;
+  // What each field stores, in the layout's order: names cleaned, flags and
+  // dates as the kind stores them.
+  LineTexts StoredTexts() const;
   // The number the next line of the declaration takes. Throws StoreError.
   int NextRowNum();
   // Stores the values as line `row_num` of the declaration. Throws StoreError.
-  void StoreLine(int row_num, const ColumnValues& values) { InsertLine(Id(), row_num, values); }
+  void StoreLine(int row_num, const LineTexts& texts) { InsertLine(Id(), row_num, texts); }
   Database& Store() { return *vars_.StoreConnection; }
   int Id() const { return vars_.DeclarationId; }
   void InsertData();
@@ -111,8 +114,8 @@ class LinesForm : public Form {
   // The kind's lines table. All throw StoreError. ReadLine gives the line's
   // number too (LineColumnValues).
   virtual std::optional<ColumnValues> ReadLine(qint64 rowid) = 0;
-  virtual void InsertLine(int id, int row_num, const ColumnValues& values) = 0;
-  virtual int UpdateLineRow(const LineAddress& address, const ColumnValues& values) = 0;
+  virtual void InsertLine(int id, int row_num, const LineTexts& texts) = 0;
+  virtual int UpdateLineRow(const LineAddress& address, const LineTexts& texts) = 0;
 
   Vars& vars_;
   Dialogs& dialogs_;
@@ -151,13 +154,43 @@ class LinesFormOf : public LinesForm {
   std::optional<ColumnValues> ReadLine(qint64 rowid) override {
     return LineColumnValues(SelectLineAt<Row>(*vars_.StoreConnection, rowid));
   }
-  void InsertLine(int id, int row_num, const ColumnValues& values) override {
-    Row row = RowOf<Row>(id, values);
+  void InsertLine(int id, int row_num, const LineTexts& texts) override {
+    Row row = RowOfTexts(id, texts);
     row.row_num = row_num;
     InsertRow(*vars_.StoreConnection, row);
   }
-  int UpdateLineRow(const LineAddress& address, const ColumnValues& values) override {
-    return UpdateLineAt(*vars_.StoreConnection, address, RowOf<Row>(address.id, values));
+  int UpdateLineRow(const LineAddress& address, const LineTexts& texts) override {
+    return UpdateLineAt(*vars_.StoreConnection, address, RowOfTexts(address.id, texts));
+  }
+
+ private:
+  // A row of the declaration whose columns take the fields' texts; a column
+  // no field stores is Null.
+  Row RowOfTexts(int id, const LineTexts& texts) const {
+    // Which field each text column of the row takes, found once.
+    static const std::vector<int> fields_of_columns = [this] {
+      std::vector<int> fields;
+      Row row;
+      ForEachText(row, [&](const char* column, veroxia::Text&) {
+        int found = -1;
+        for (size_t f = 0; f < Layout().fields.size(); ++f) {
+          if (Layout().fields[f].column.compare(QLatin1StringView(column), Qt::CaseInsensitive) ==
+              0) {
+            found = static_cast<int>(f);
+          }
+        }
+        fields.push_back(found);
+      });
+      return fields;
+    }();
+    Row row;
+    row.id = id;
+    size_t column = 0;
+    ForEachText(row, [&](const char*, veroxia::Text& value) {
+      const int field = fields_of_columns[column++];
+      if (field >= 0) value = texts[static_cast<size_t>(field)];
+    });
+    return row;
   }
 };
 

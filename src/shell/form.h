@@ -5,7 +5,7 @@
 
 #include <QString>
 #include <QStringList>
-#include <map>
+#include <unordered_map>
 #include <optional>
 
 namespace veroxia {
@@ -54,7 +54,7 @@ class Form {
   void SetTitle(const QString& title) { title_ = title; }
 
  private:
-  std::map<QString, Control> controls_;
+  std::unordered_map<QString, Control> controls_;  // never moved once declared
   QStringList order_;
   QString focus_;
   std::optional<Selection> selection_;

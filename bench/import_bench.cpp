@@ -1,0 +1,145 @@
+// Bringing the large payroll in from a CSV file, every row checked as the
+// employee screen checks it, beside a bare INSERT of the same rows in one
+// transaction, measured in the same run; and the memory the import leaves.
+
+#include <benchmark/benchmark.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "lines/line_import.h"
+#include "lines/line_kinds.h"
+#include "payroll.h"
+#include "silent_ports.h"
+#include "store/declarations.h"
+#include "store/store_file.h"
+
+namespace {
+
+using namespace veroxia;
+using namespace veroxia::bench;
+using namespace Qt::StringLiterals;
+
+Kind KindOf(const benchmark::State& state) {
+  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
+}
+
+// The payroll's first `lines` lines of the kind as the export writes them,
+// written once per run.
+QString PayrollCsv(Kind kind, int lines) {
+  static QTemporaryDir dir;
+  const QString whole =
+      dir.filePath(kind == Kind::Common ? u"common.csv"_s : u"construction.csv"_s);
+  const QString part = dir.filePath(u"%1-%2"_s.arg(lines).arg(QFileInfo(whole).fileName()));
+  if (!QFile::exists(whole)) {
+    auto db = Database::Open(PayrollFile(), StorePassword());
+    ExportLines(*db, kind, kPayrollId, whole);
+  }
+  if (lines >= kPayrollLines) return whole;
+  if (!QFile::exists(part)) {
+    QFile in(whole);
+    QFile out(part);
+    if (in.open(QIODevice::ReadOnly) && out.open(QIODevice::WriteOnly)) {
+      for (int line = 0; line <= lines; ++line) out.write(in.readLine());
+    }
+  }
+  return part;
+}
+
+// A store of its own holding the payroll's header of the kind and no line.
+struct EmptyDeclaration {
+  explicit EmptyDeclaration(Kind kind) {
+    const QString path = dir.filePath(u"QorDb.mdb"_s);
+    CreateStore(path, StorePassword());
+    vars.StoreConnection = Database::Open(path, StorePassword());
+    vars.StoreOpen = true;
+    vars.DeclarationId = kPayrollId;
+    vars.PeriodFrom = u"012002"_s;
+    vars.PeriodTo = u"032002"_s;
+    vars.StoreConnection->Exec(kind == Kind::Common
+                                   ? "INSERT INTO QOR_EMPLOYERS (id) VALUES (1)"
+                                   : "INSERT INTO QOR_CON_EMPLOYERS (id) VALUES (1)");
+  }
+  QTemporaryDir dir;
+  Vars vars;
+};
+
+void BM_ImportPayroll(benchmark::State& state) {
+  const Kind kind = KindOf(state);
+  const int lines = static_cast<int>(state.range(1));
+  const QString csv = PayrollCsv(kind, lines);
+  SilentDialogs dialogs;
+  SilentScreens screens;
+  long growth = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto target = std::make_unique<EmptyDeclaration>(kind);
+    auto form = MakeLinesForm(kind, target->vars, dialogs, screens);
+    const long before = ResidentKb();
+    state.ResumeTiming();
+    LineImport import(*form, csv);
+    const QString refusal = import.Open();
+    import.Run(nullptr);
+    import.Commit();
+    state.PauseTiming();
+    growth = std::max(growth, ResidentKb() - before);
+    if (!refusal.isEmpty() || import.Rows() != lines || import.FailedRows() > 0 ||
+        import.WarnedRows() > 0) {
+      state.SkipWithError("the payroll did not import cleanly");
+    }
+    target.reset();
+    state.ResumeTiming();
+  }
+  state.counters["rss_growth_kb"] = static_cast<double>(growth);
+  state.SetItemsProcessed(state.iterations() * lines);
+}
+// A quarter of the payroll beside the whole: what memory the import takes
+// does not grow with the file.
+BENCHMARK(BM_ImportPayroll)
+    ->Args({0, kPayrollLines})
+    ->Args({1, kPayrollLines})
+    ->Args({0, kPayrollLines / 4})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(3);
+
+// The same rows, as stored, inserted with one prepared statement in one
+// transaction: nothing read from a file, nothing checked.
+template <class Row>
+void InsertBare(benchmark::State& state, Kind kind) {
+  std::vector<Row> rows;
+  {
+    auto db = Database::Open(PayrollFile(), StorePassword());
+    Rows lines = LinesByNumber(*db, kind, kPayrollId);
+    while (lines->Next()) rows.push_back(RowFrom<Row>(*lines));
+  }
+  long growth = 0;
+  for (auto _ : state) {
+    state.PauseTiming();
+    auto target = std::make_unique<EmptyDeclaration>(kind);
+    Database& db = *target->vars.StoreConnection;
+    const long before = ResidentKb();
+    state.ResumeTiming();
+    Transaction transaction(db);
+    for (const Row& row : rows) InsertRow(db, row);
+    transaction.Commit();
+    state.PauseTiming();
+    growth = std::max(growth, ResidentKb() - before);
+    target.reset();
+    state.ResumeTiming();
+  }
+  // What the store's page cache takes, for the import's figure beside it.
+  state.counters["rss_growth_kb"] = static_cast<double>(growth);
+  state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(rows.size()));
+}
+
+void BM_InsertPayrollBare(benchmark::State& state) {
+  if (KindOf(state) == Kind::Common) {
+    InsertBare<EmployeeRow>(state, Kind::Common);
+  } else {
+    InsertBare<ConEmployeeRow>(state, Kind::Construction);
+  }
+}
+BENCHMARK(BM_InsertPayrollBare)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(3);
+
+}  // namespace
