@@ -14,6 +14,7 @@
 #include "gui/driver.h"
 #include "gui/lines_view.h"
 #include "gui/search_view.h"
+#include "lines/import_texts.h"
 #include "lines/ovt_form2.h"
 #include "lines/ovt_form4.h"
 #include "lines/texts.h"
@@ -72,6 +73,12 @@ TEST_P(LinesViewTest, EveryControlHasItsWidgetUncutAndTheFirstFieldTheFocus) {
   EXPECT_EQ(Find<QComboBox>(*view, GetParam().choice)->count(), 2);
   EXPECT_FALSE(Find<QPushButton>(*view, u"NewCmd"_s)->isVisible());
   EXPECT_FALSE(Find<QPushButton>(*view, u"FirstCmd"_s)->isEnabled());
+  // The file buttons ask for a file to read and a file to write.
+  Click(*view, u"ImportCmd"_s);
+  Click(*view, u"ExportCmd"_s);
+  ASSERT_EQ(dialogs.file_questions.size(), 2u);
+  EXPECT_EQ(dialogs.file_questions[0].title, import_texts::kImportTitle);
+  EXPECT_TRUE(dialogs.file_questions[1].save);
 }
 
 // Typed texts reach the logic (the date box as shown, the choice box by its

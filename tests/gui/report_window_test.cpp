@@ -5,11 +5,13 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <memory>
 
 #include "gui/report_window.h"
+#include "shell/texts.h"
 
 namespace veroxia::testing {
 namespace {
@@ -46,6 +48,15 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   report.notes.clear();
   const std::unique_ptr<QDialog> clean(MakeReportWindow(nullptr, report));
   EXPECT_EQ(clean->findChild<QPlainTextEdit*>(u"ReportNotes"_s), nullptr);
+  EXPECT_NE(clean->findChild<QPushButton*>(u"SaveCmd"_s), nullptr);
+
+  // A window that asks to go on: its button accepts, the other is "Άκυρο".
+  report.about = {u"Αρχείο: a.csv"_s};
+  const std::unique_ptr<QDialog> asking(MakeReportWindow(nullptr, report, u"Εισαγωγή"_s));
+  EXPECT_EQ(asking->findChild<QLabel*>(u"ReportAbout"_s)->text(), report.about[0]);
+  EXPECT_EQ(asking->findChild<QPushButton*>(u"CloseCmd"_s)->text(), texts::kCancelCmd);
+  asking->findChild<QPushButton*>(u"GoOnCmd"_s)->click();
+  EXPECT_EQ(asking->result(), QDialog::Accepted);
 }
 
 }  // namespace

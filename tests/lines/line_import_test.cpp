@@ -10,6 +10,7 @@
 #include "lines/line_import.h"
 #include "lines/line_kinds.h"
 #include "lines/ovt_form2.h"
+#include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"
 #include "support/lines_csv.h"
@@ -228,6 +229,15 @@ TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
   EXPECT_FALSE(Import(valid));
   EXPECT_EQ(dialogs_.LastMessage(), kCancelled);
   dialogs_.stop_at = 0;
+
+  // The store fails at the second row: the first is taken back too.
+  db_.Exec("CREATE TRIGGER full BEFORE INSERT ON QOR_EMPLOYEES WHEN NEW.row_num = 3 "
+           "BEGIN SELECT RAISE(ABORT, 'database or disk is full'); END");
+  EXPECT_FALSE(Import(valid));
+  EXPECT_TRUE(dialogs_.LastMessage().startsWith(lines_texts::kStoreProblem));
+  EXPECT_TRUE(dialogs_.LastMessage().endsWith(kNothingStored));
+  EXPECT_EQ(Stored(), before);
+  db_.Exec("DROP TRIGGER full");
 
   // A tax number with a wrong check digit is shown and asked about once.
   const QByteArray warned =
