@@ -21,10 +21,6 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
-Kind KindOf(const benchmark::State& state) {
-  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
-}
-
 // The payroll's first `lines` lines of the kind as the export writes them,
 // written once per run.
 QString PayrollCsv(Kind kind, int lines) {
@@ -66,7 +62,7 @@ struct EmptyDeclaration {
 };
 
 void BM_ImportPayroll(benchmark::State& state) {
-  const Kind kind = KindOf(state);
+  const Kind kind = KindOf(state.range(0));
   const int lines = static_cast<int>(state.range(1));
   const QString csv = PayrollCsv(kind, lines);
   SilentDialogs dialogs;
@@ -134,7 +130,7 @@ void InsertBare(benchmark::State& state, Kind kind) {
 }
 
 void BM_InsertPayrollBare(benchmark::State& state) {
-  if (KindOf(state) == Kind::Common) {
+  if (KindOf(state.range(0)) == Kind::Common) {
     InsertBare<EmployeeRow>(state, Kind::Common);
   } else {
     InsertBare<ConEmployeeRow>(state, Kind::Construction);

@@ -20,10 +20,6 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
-Kind KindOf(const benchmark::State& state) {
-  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
-}
-
 class Screen {
  public:
   explicit Screen(Kind kind) : kind_(kind) {
@@ -54,13 +50,13 @@ class Screen {
 };
 
 void BM_OpenLinesAndShowFirst(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   for (auto _ : state) benchmark::DoNotOptimize(screen.Open());
 }
 BENCHMARK(BM_OpenLinesAndShowFirst)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_NextLine(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   for (auto _ : state) {
     form->Nextcmd_Click();
@@ -74,7 +70,7 @@ void BM_NextLine(benchmark::State& state) {
 BENCHMARK(BM_NextLine)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_PreviousLine(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   form->LastCmd_Click();
   for (auto _ : state) {
@@ -89,7 +85,7 @@ void BM_PreviousLine(benchmark::State& state) {
 BENCHMARK(BM_PreviousLine)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_FindByRegisterNumber(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   int person = 0;
   for (auto _ : state) {
@@ -102,7 +98,7 @@ void BM_FindByRegisterNumber(benchmark::State& state) {
 BENCHMARK(BM_FindByRegisterNumber)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_FindBySurnamePrefix(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   int person = 0;
   for (auto _ : state) {
@@ -116,7 +112,7 @@ void BM_FindBySurnamePrefix(benchmark::State& state) {
 BENCHMARK(BM_FindBySurnamePrefix)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 void BM_InsertLine(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   form->NewCmd_Click();
   using Typed = std::vector<std::pair<const char*, QString>>;
@@ -151,7 +147,7 @@ BENCHMARK(BM_InsertLine)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 // Deletes the first line (number 1) again and again: every other line of the
 // declaration moves one number down each time.
 void BM_DeleteFirstLine(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   for (auto _ : state) {
     if (form->CurrentRowNum() != u"1"_s) state.SkipWithError("the first line is not line 1");
@@ -162,7 +158,7 @@ BENCHMARK(BM_DeleteFirstLine)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->It
 
 // The renumbering statement alone, on the same lines.
 void BM_BareRenumbering(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   Database& db = *screen.vars.StoreConnection;
   for (auto _ : state) {
     db.Prepare(QByteArray("UPDATE ") + TablesOf(screen.kind_).lines +
@@ -175,7 +171,7 @@ void BM_BareRenumbering(benchmark::State& state) {
 BENCHMARK(BM_BareRenumbering)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(10);
 
 void BM_DeleteLastLine(benchmark::State& state) {
-  Screen screen(KindOf(state));
+  Screen screen(KindOf(state.range(0)));
   auto form = screen.Open();
   for (auto _ : state) {
     state.PauseTiming();

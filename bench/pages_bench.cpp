@@ -17,7 +17,7 @@ using namespace veroxia::bench;
 
 void BM_ComposeDeclarationPages(benchmark::State& state) {
   auto db = Database::Open(PayrollFile(), StorePassword());
-  const Kind kind = state.range(0) == 0 ? Kind::Common : Kind::Construction;
+  const Kind kind = KindOf(state.range(0));
   qint64 lines = 0;
   int pages = 0;
   long growth = 0;

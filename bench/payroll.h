@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include "store/kind.h"
+
 namespace veroxia::bench {
 
 constexpr int kPayrollId = 1;
@@ -18,6 +20,9 @@ void MakePayrollStore(const QString& path, int lines = kPayrollLines,
 // The payroll store, made once per run in a temporary directory; a benchmark
 // that changes it works on its own copy.
 const QString& PayrollFile();
+
+// The kind a benchmark's first argument names: 0 common, 1 construction.
+inline Kind KindOf(long long argument) { return argument == 0 ? Kind::Common : Kind::Construction; }
 
 // Resident memory of the process, in kilobytes; 0 where it cannot be read.
 long ResidentKb();

@@ -23,10 +23,6 @@ namespace {
 using namespace veroxia;
 using namespace veroxia::bench;
 
-Kind KindOf(const benchmark::State& state) {
-  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
-}
-
 // The directory holding the payroll's volumes of the kind.
 QString VolumesOf(Kind kind) {
   static std::unique_ptr<QTemporaryDir> dirs[2];
@@ -41,7 +37,7 @@ QString VolumesOf(Kind kind) {
 }
 
 void BM_ReadVolumesBare(benchmark::State& state) {
-  const QDir dir(VolumesOf(KindOf(state)));
+  const QDir dir(VolumesOf(KindOf(state.range(0))));
   QByteArray buffer(1 << 18, Qt::Uninitialized);  // pieces as large as the check reads
   qint64 bytes = 0;
   for (auto _ : state) {
@@ -70,7 +66,7 @@ void BM_ReadVolumesBare(benchmark::State& state) {
 BENCHMARK(BM_ReadVolumesBare)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 void BM_VerifyVolumes(benchmark::State& state) {
-  const QString dir = VolumesOf(KindOf(state));
+  const QString dir = VolumesOf(KindOf(state.range(0)));
   long growth = 0;
   qint64 bytes = 0;
   for (auto _ : state) {
@@ -91,10 +87,11 @@ BENCHMARK(BM_VerifyVolumes)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 // The same against the store: the expected counts read first, as
 // "verify --against" does.
 void BM_VerifyAgainstStore(benchmark::State& state) {
-  const QString dir = VolumesOf(KindOf(state));
+  const QString dir = VolumesOf(KindOf(state.range(0)));
   auto db = Database::Open(PayrollFile(), StorePassword());
   for (auto _ : state) {
-    const VolumeCheck check = VerifyVolumes(dir, ExpectedCounts(*db, KindOf(state), kPayrollId));
+    const VolumeCheck check =
+        VerifyVolumes(dir, ExpectedCounts(*db, KindOf(state.range(0)), kPayrollId));
     if (!check.AllHold()) state.SkipWithError("does not hold");
   }
   state.SetItemsProcessed(state.iterations() * kPayrollLines);

@@ -21,14 +21,10 @@ using namespace veroxia;
 using namespace veroxia::bench;
 using namespace Qt::StringLiterals;
 
-Kind KindOf(const benchmark::State& state) {
-  return state.range(0) == 0 ? Kind::Common : Kind::Construction;
-}
-
 void BM_ReadLinesBare(benchmark::State& state) {
   auto db = Database::Open(PayrollFile(), StorePassword());
   for (auto _ : state) {
-    Rows rows = LinesInOrder(*db, KindOf(state), kPayrollId);
+    Rows rows = LinesInOrder(*db, KindOf(state.range(0)), kPayrollId);
     const int columns = rows->ColumnCount();
     qint64 chars = 0;
     while (rows->Next()) {
@@ -46,7 +42,8 @@ BENCHMARK(BM_ReadLinesBare)->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 void BM_CompareTotals(benchmark::State& state) {
   auto db = Database::Open(PayrollFile(), StorePassword());
   for (auto _ : state) {
-    const std::optional<TotalsReport> report = CompareTotals(*db, KindOf(state), kPayrollId);
+    const std::optional<TotalsReport> report =
+        CompareTotals(*db, KindOf(state.range(0)), kPayrollId);
     benchmark::DoNotOptimize(report);
   }
   state.SetItemsProcessed(state.iterations() * kPayrollLines);
@@ -60,7 +57,7 @@ void BM_WriteVolumes(benchmark::State& state) {
   int volumes = 0;
   for (auto _ : state) {
     const long before = ResidentKb();
-    VolumeWriter writer(*db, KindOf(state), kPayrollId);
+    VolumeWriter writer(*db, KindOf(state.range(0)), kPayrollId);
     VolumeFiles files(target.path());
     volumes = writer.Write(files);
     growth = std::max(growth, ResidentKb() - before);

@@ -93,6 +93,23 @@ QString CaptionOf(const LinesLayout& layout, const LineField& field) {
   return BoxOf(field);
 }
 
+// A report of the problems of a file: those kept, one a row, and how many
+// more were found.
+Report ProblemReport(const QString& title, const std::vector<ImportFault>& kept, qint64 found,
+                     const QString& verdict) {
+  Report report;
+  report.title = title;
+  report.columns << kReportLine << kReportColumn << kReportValue << kReportMessage;
+  for (const ImportFault& problem : kept) {
+    report.rows.push_back(
+        {{QString::number(problem.line), problem.column, problem.value, problem.message}, false});
+  }
+  const auto shown = static_cast<qint64>(kept.size());
+  if (found > shown) report.notes << kMoreFaults.arg(shown).arg(found - shown);
+  report.verdict = verdict;
+  return report;
+}
+
 }  // namespace
 
 LineImport::LineImport(LinesForm& form, QString path)
@@ -267,6 +284,7 @@ void LineImport::Take(const CsvRecord& record) {
     const LineField& field = fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])];
     if (const std::optional<QString> warning = CheckDigitWarning(field.column, record.fields[c])) {
       Fault(warnings_, {record.line, names_[c], record.fields[c], *warning});
+      ++warnings_found_;
       warned = true;
     }
   }
@@ -283,33 +301,13 @@ void LineImport::Take(const CsvRecord& record) {
 }
 
 Report LineImport::FaultReport() const {
-  Report report;
-  report.title = kReportTitle;
-  report.columns << kReportLine << kReportColumn << kReportValue << kReportMessage;
-  for (const ImportFault& fault : faults_) {
-    report.rows.push_back(
-        {{QString::number(fault.line), fault.column, fault.value, fault.message}, false});
-  }
-  if (failed_rows_ > static_cast<qint64>(faults_.size())) {
-    report.notes << kMoreFaults.arg(faults_.size()).arg(failed_rows_ - faults_.size());
-  }
-  report.verdict = kRowsFailed.arg(failed_rows_).arg(rows_);
-  return report;
+  return ProblemReport(kReportTitle, faults_, failed_rows_,
+                       kRowsFailed.arg(failed_rows_).arg(rows_));
 }
 
 Report LineImport::WarningReport() const {
-  Report report;
-  report.title = kWarningsTitle;
-  report.columns << kReportLine << kReportColumn << kReportValue << kReportMessage;
-  for (const ImportFault& warning : warnings_) {
-    report.rows.push_back(
-        {{QString::number(warning.line), warning.column, warning.value, warning.message}, false});
-  }
-  if (warned_rows_ > static_cast<qint64>(warnings_.size())) {
-    report.notes << kMoreFaults.arg(warnings_.size()).arg(warned_rows_ - warnings_.size());
-  }
-  report.verdict = kWarningsVerdict.arg(warned_rows_);
-  return report;
+  return ProblemReport(kWarningsTitle, warnings_, warnings_found_,
+                       kWarningsVerdict.arg(warned_rows_));
 }
 
 bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,

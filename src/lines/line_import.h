@@ -91,6 +91,7 @@ class LineImport {
   qint64 rows_ = 0;
   qint64 failed_rows_ = 0;
   qint64 warned_rows_ = 0;
+  qint64 warnings_found_ = 0;
   std::vector<ImportFault> faults_;
   std::vector<ImportFault> warnings_;
   int first_row_num_ = 0;
