@@ -86,6 +86,8 @@ TEST(Cli, LinesGoOutToACsvFileAndComeBackTheSame) {
     const CliRun imported = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, in});
     EXPECT_EQ(imported.status, 0) << imported.err.toStdString();
     EXPECT_EQ(imported.err, kImported.arg(lines).arg(1).arg(lines) + u'\n');
+    EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"2"_s, out2}).status, 0);
+    EXPECT_EQ(testing::FileBytes(out2).count('\n'), 1);  // the names alone
     EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"1"_s, out1}).status, 0);
     EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, kind, u"2"_s, out1}).status, 0);
     EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"2"_s, out2}).status, 0);

@@ -33,7 +33,8 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
       // clang-format off
       {"a;b\r\n1;2\r\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2"}}, {1, 2}, {}},
       {"\xEF\xBB\xBF" "a,b\n\"x,\"\"y\"\"\",2\n", CsvEncoding::kUtf8Bom, ',', {{"a", "b"}, {"x,\"y\"", "2"}}, {1, 2}, {}},
-      {"a;b\n\xE2\x82\xAC;\xF0\x9F\x98\x80\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {u"€"_s, u"😀"_s}}, {1, 2}, {}},
+      // The first and last leads of three- and four-byte sequences.
+      {"a;b\n\xE0\xA4\x85\xE2\x82\xAC\xEF\xBC\xA1;\xF0\x9F\x98\x80\xF4\x80\x80\x80\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {u"अ€Ａ"_s, u"😀\U00100000"_s}}, {1, 2}, {}},
       {"a;b\r\n\xD0\xC1\xA0\xD0\xC1;\xE1\xDC\r\n", CsvEncoding::kWindows1253, ';', {{"a", "b"}, {u"ΠΑ\u00A0ΠΑ"_s, u"αά"_s}}, {1, 2}, {}},
       {"a;b\n\xD0\xC1\xD0\x81;1\n", CsvEncoding::kWindows1253, ';', {{"a", "b"}, {u"ΠΑΠ\uFFFD"_s, u"1"_s}}, {1, 2}, kBadBytes.arg(u"Windows-1253"_s, u"81"_s), 0},
       // A line break inside quotes; empty lines and lines of empty fields
