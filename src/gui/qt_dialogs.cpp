@@ -118,6 +118,21 @@ void Prepare(QMessageBox& box) {
 
 }  // namespace
 
+QString ChooseFile(QWidget* parent, const FileQuestion& question) {
+  // Qt's own dialog, in our Greek, wherever the program runs; it opens where
+  // the last file was chosen.
+  static QString folder = QDir::homePath();
+  const QFileDialog::Options options = QFileDialog::DontUseNativeDialog;
+  const QString path = question.save
+                           ? QFileDialog::getSaveFileName(parent, question.title,
+                                                          QDir(folder).filePath(question.suggested),
+                                                          question.filter, nullptr, options)
+                           : QFileDialog::getOpenFileName(parent, question.title, folder,
+                                                          question.filter, nullptr, options);
+  if (!path.isEmpty()) folder = QFileInfo(path).absolutePath();
+  return path;
+}
+
 BeforeBoxOpens::BeforeBoxOpens(std::function<void()> routine) : routine_(std::move(routine)) {
   Hooks().push_back(this);
 }
@@ -261,15 +276,7 @@ QString QtDialogs::AskFile(const FileQuestion& question) {
     return {};
   }
   ArrowWhileOpen arrow(busy_);
-  // Qt's own dialog, in our Greek, wherever the program runs.
-  const QFileDialog::Options options = QFileDialog::DontUseNativeDialog;
-  if (question.save) {
-    return QFileDialog::getSaveFileName(Owner(), question.title,
-                                        QDir::home().filePath(question.suggested), question.filter,
-                                        nullptr, options);
-  }
-  return QFileDialog::getOpenFileName(Owner(), question.title, QDir::homePath(), question.filter,
-                                      nullptr, options);
+  return ChooseFile(Owner(), question);
 }
 
 void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) {

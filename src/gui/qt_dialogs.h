@@ -13,6 +13,8 @@
 #include <QString>
 #include <functional>
 
+class QWidget;
+
 #include "shell/ports.h"
 
 namespace veroxia {
@@ -21,6 +23,10 @@ namespace veroxia {
 QString DisplayText(const QString& text);
 // The one line written for a message in unattended runs (without the newline).
 QString UnattendedLine(const QString& text, const QString& title);
+
+// Qt's file dialog over `parent`, opening where the last file was chosen: the
+// full path chosen, empty when cancelled.
+QString ChooseFile(QWidget* parent, const FileQuestion& question);
 
 // While it lives, `routine` runs before every message box or question opens,
 // after the hooks made before it. FormBinder makes one for each screen.

@@ -2,8 +2,6 @@
 
 #include <QBoxLayout>
 #include <QDialog>
-#include <QDir>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,6 +15,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "gui/qt_dialogs.h"
 #include "shell/texts.h"
 
 namespace veroxia {
@@ -87,9 +86,7 @@ QSize TableRoom(const QTableWidget& table, int most_height) {
 // The report as a text file, where the user chooses; a file that cannot be
 // written is told.
 void SaveReport(QWidget* window, const Report& report) {
-  const QString path =
-      QFileDialog::getSaveFileName(window, kSaveTitle, QDir::home().filePath(u"report.txt"_s),
-                                   kTextFilter, nullptr, QFileDialog::DontUseNativeDialog);
+  const QString path = ChooseFile(window, {kSaveTitle, kTextFilter, u"report.txt"_s, true});
   if (path.isEmpty()) return;
   const QString problem = SaveReportText(report, path);
   if (problem.isEmpty()) return;
