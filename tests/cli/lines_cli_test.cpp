@@ -79,8 +79,7 @@ TEST(Cli, LinesGoOutToACsvFileAndComeBackTheSame) {
          {std::pair(in, testing::Csv(which, k.lines)),
           std::pair(bad, testing::Csv(which, {k.lines[0],
                                               testing::With(k.lines[0], k.bad_field, u"x"_s)}))}) {
-      QFile f(file);
-      ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(csv) == csv.size());
+      ASSERT_TRUE(testing::WriteFile(file, csv));
     }
     const int lines = static_cast<int>(k.lines.size());
     const CliRun imported = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, in});

@@ -13,6 +13,7 @@
 #include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"
+#include "support/files.h"
 #include "support/lines_csv.h"
 #include "support/store_rows.h"
 
@@ -50,9 +51,7 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.bytes.toStdString());
     const QString path = dir.filePath(u"a.csv"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(c.bytes) == c.bytes.size());
-    file.close();
+    ASSERT_TRUE(WriteFile(path, c.bytes));
     CsvReader reader(path);
     ASSERT_EQ(reader.Open(), QString());
     EXPECT_EQ(reader.Encoding(), c.encoding);
@@ -80,9 +79,7 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
   };
   for (const auto& [bytes, why] : refused) {
     const QString path = dir.filePath(u"b.csv"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-    file.close();
+    ASSERT_TRUE(WriteFile(path, bytes));
     EXPECT_EQ(CsvReader(path).Open(), kNotText.arg(path, why));
   }
 }
@@ -95,10 +92,8 @@ TEST(CsvReaderTest, RecordsAcrossThePiecesReadWhole) {
   const int records = (1 << 20) / record.size() + 2;
   for (int shift = 0; shift < record.size(); ++shift) {
     const QString path = dir.filePath(u"c.csv"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("a" + QByteArray(shift, 'x') + ";b\r\n" + record.repeated(records));
-    file.close();
+    ASSERT_TRUE(
+        WriteFile(path, "a" + QByteArray(shift, 'x') + ";b\r\n" + record.repeated(records)));
     CsvReader reader(path);
     ASSERT_EQ(reader.Open(), QString());
     CsvRecord read;
@@ -127,9 +122,7 @@ class LineImportTest : public ::testing::Test {
   // the fake person; true when lines were stored.
   bool Import(const QByteArray& csv, int id = 1) {
     const QString path = dir_.filePath(u"lines.csv"_s);
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size());
-    file.close();
+    EXPECT_TRUE(WriteFile(path, csv));
     store_.vars.DeclarationId = static_cast<std::int16_t>(id);
     dialogs_.files.push_back(path);
     const auto form = MakeLinesForm(Kind::Common, store_.vars, dialogs_, screens_);
@@ -260,10 +253,7 @@ TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
   form.Load();
   EXPECT_TRUE(form.At(u"ImportCmd"_s).enabled && form.NewMode());
   const QString path = dir_.filePath(u"lines.csv"_s);
-  QFile file(path);
-  const QByteArray csv = Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)});
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(csv) == csv.size());
-  file.close();
+  ASSERT_TRUE(WriteFile(path, Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)})));
   dialogs_.files.push_back(path);
   form.ImportCmd_Click();
   EXPECT_EQ(form.Text(u"Text21"_s), u"ΑΛΦΑ"_s);
