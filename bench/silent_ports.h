@@ -12,6 +12,7 @@ class SilentDialogs : public Dialogs {
  public:
   void Message(const QString&, const QString&) override { ++messages; }
   bool Ask(const QString&, const QString&, AskStyle) override { return true; }
+  int Choose(const QString&, const QString&, const QStringList&) override { return 0; }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return search; }
   QString AskDirectory() override { return {}; }

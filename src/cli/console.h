@@ -27,6 +27,12 @@ class ConsoleDialogs : public Dialogs {
     Print(stderr, text);
     return true;
   }
+  // A question of several answers is told and answered by `choice`, which
+  // the command sets from its options (-1, the box closed, unless set).
+  int Choose(const QString& text, const QString&, const QStringList&) override {
+    Print(stderr, text);
+    return choice;
+  }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return {}; }
   QString AskDirectory() override { return path_; }
@@ -37,6 +43,8 @@ class ConsoleDialogs : public Dialogs {
   bool ConfirmReport(const Report&, const QString&) override { return true; }
   QString AskFile(const FileQuestion&) override { return path_; }
   void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) override;
+
+  int choice = -1;
 
  private:
   QString path_;

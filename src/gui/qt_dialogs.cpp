@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
 #include <QScreen>
 #include <algorithm>
 #include <cstdio>
@@ -199,6 +200,25 @@ bool QtDialogs::Ask(const QString& text, const QString& title, AskStyle style) {
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Yes);
   box.setEscapeButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
+}
+
+int QtDialogs::Choose(const QString& text, const QString& title, const QStringList& buttons) {
+  BeforeBoxOpens::RunAll();
+  if (unattended_) {
+    Print(text, title);
+    return -1;
+  }
+  ArrowWhileOpen arrow(busy_);
+  QMessageBox box(QMessageBox::NoIcon, title, DisplayText(text), QMessageBox::NoButton, Owner());
+  std::vector<QAbstractButton*> added;
+  for (const QString& caption : buttons) {
+    added.push_back(box.addButton(caption, QMessageBox::ActionRole));
+  }
+  Prepare(box);
+  if (!added.empty()) box.setDefaultButton(qobject_cast<QPushButton*>(added.front()));
+  box.exec();
+  const auto pressed = std::find(added.begin(), added.end(), box.clickedButton());
+  return pressed == added.end() ? -1 : static_cast<int>(pressed - added.begin());
 }
 
 SearchAnswer QtDialogs::AskInsuredPerson() {

@@ -54,6 +54,9 @@ class QtDialogs : public Dialogs {
 
   void Message(const QString& text, const QString& title) override;
   bool Ask(const QString& text, const QString& title, AskStyle style) override;
+  // A box with one button for each answer, no icon, the first the default;
+  // closed (-1) at once in unattended runs.
+  int Choose(const QString& text, const QString& title, const QStringList& buttons) override;
   // The pointer is either busy or not: turning it on twice and off once
   // leaves the normal pointer, as does turning it off when it is not on.
   void SetBusy(bool busy) override;

@@ -86,7 +86,9 @@ QSize TableRoom(const QTableWidget& table, int most_height) {
 // The report as a text file, where the user chooses; a file that cannot be
 // written is told.
 void SaveReport(QWidget* window, const Report& report) {
-  const QString path = ChooseFile(window, {kSaveTitle, kTextFilter, u"report.txt"_s, true});
+  const QString path =
+      ChooseFile(window, {kSaveTitle, kTextFilter,
+                          report.file_name.isEmpty() ? u"report.txt"_s : report.file_name, true});
   if (path.isEmpty()) return;
   const QString problem = SaveReportText(report, path);
   if (problem.isEmpty()) return;

@@ -3,6 +3,7 @@
 // the windowing side. The GUI implements these for real; the tests with fakes.
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 #include "printing/printer.h"
@@ -47,6 +48,10 @@ class Dialogs {
   virtual void Message(const QString& text, const QString& title) = 0;
   // A Yes/No question; true for Yes.
   virtual bool Ask(const QString& text, const QString& title, AskStyle style) = 0;
+  // A question answered by one of several buttons, captioned `buttons`, the
+  // first the default: the index of the button pressed, -1 when the box was
+  // closed without one (Esc, the close box).
+  virtual int Choose(const QString& text, const QString& title, const QStringList& buttons) = 0;
   // The hourglass pointer on or off.
   virtual void SetBusy(bool busy) = 0;
   // The insured-person search dialog, modal.

@@ -21,6 +21,7 @@ struct Report {
   std::vector<ReportRow> rows;
   QStringList notes;  // findings that are not rows of the table
   QString verdict;    // one closing sentence
+  QString file_name;  // offered when it is saved as text; "report.txt" when empty
   bool AllHold() const;
 };
 

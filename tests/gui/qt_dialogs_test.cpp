@@ -4,6 +4,7 @@
 
 #include <QAbstractButton>
 #include <QCursor>
+#include <QPushButton>
 
 #include "gui/driver.h"
 #include "gui/qt_dialogs.h"
@@ -115,6 +116,22 @@ TEST(QtDialogsTest, BoxesShowTheirTextTitleAndGreekButtons) {
         }));
     EXPECT_EQ(answer, c.answer) << c.title.toStdString();
   }
+}
+
+TEST(QtDialogsTest, AChoiceAnswersThePlaceOfTheButtonPressed) {
+  QtDialogs dialogs(false);
+  const QStringList captions = {u"Προσθήκη"_s, u"Αντικατάσταση"_s, texts::kCancelCmd};
+  int answer = -2;
+  ASSERT_TRUE(
+      AnswerNextBox([&] { answer = dialogs.Choose(u"Ερώτηση"_s, texts::kAppTitle, captions); },
+                    [&](QMessageBox& box) {
+                      QStringList shown;
+                      for (const QAbstractButton* b : box.buttons()) shown << b->text();
+                      EXPECT_EQ(shown, captions);
+                      EXPECT_EQ(box.defaultButton(), box.buttons().front());
+                      box.setDefaultButton(qobject_cast<QPushButton*>(box.buttons()[1]));
+                    }));
+  EXPECT_EQ(answer, 1);
 }
 
 }  // namespace

@@ -64,6 +64,14 @@ class FakeDialogs : public Dialogs {
     answers.pop_front();
     return answer;
   }
+  int Choose(const QString& text, const QString& title, const QStringList& buttons) override {
+    questions.push_back({text, title});
+    choice_buttons.push_back(buttons);
+    if (choices.empty()) return -1;
+    const int answer = choices.front();
+    choices.pop_front();
+    return answer;
+  }
   void SetBusy(bool busy) override {
     busy_calls.push_back(busy);
     this->busy = busy;
@@ -137,6 +145,8 @@ class FakeDialogs : public Dialogs {
   std::vector<ShownMessage> questions;
   std::deque<bool> answers;  // scripted answers to Ask, in order; No when none is left
   AskStyle last_style = AskStyle::Plain;
+  std::deque<int> choices;  // scripted answers to Choose, in order; closed (-1) when none
+  std::vector<QStringList> choice_buttons;  // the buttons of each Choose
   std::vector<bool> busy_calls;
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
