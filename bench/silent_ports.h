@@ -15,7 +15,7 @@ class SilentDialogs : public Dialogs {
   int Choose(const QString&, const QString&, const QStringList&) override { return 0; }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return search; }
-  QString AskDirectory() override { return {}; }
+  QString AskDirectory(DirPurpose) override { return {}; }
   void PrintPreview(const std::function<bool(Printer&)>&) override {}
   void ShowReport(const Report&) override {}
   bool ConfirmReport(const Report&, const QString&) override { return true; }

@@ -35,7 +35,7 @@ class ConsoleDialogs : public Dialogs {
   }
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return {}; }
-  QString AskDirectory() override { return path_; }
+  QString AskDirectory(DirPurpose) override { return path_; }
   // The command line has no preview: its printouts go straight to the
   // printer the command names (RunPrintout).
   void PrintPreview(const std::function<bool(Printer&)>&) override {}

@@ -60,7 +60,7 @@ FileOutcome CreateFile(Vars& vars, Dialogs& dialogs, Kind kind) {
     return FileOutcome::kCancelled;
   }
   vars.DialogResult.clear();
-  vars.DialogResult = dialogs.AskDirectory();
+  vars.DialogResult = dialogs.AskDirectory(DirPurpose::kWriteVolumes);
   if (vars.DialogResult.trimmed().isEmpty()) return FileOutcome::kCancelled;
   const QString directory = vars.DialogResult;
 

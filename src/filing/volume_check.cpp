@@ -657,7 +657,7 @@ Report VolumeCheckWindow(const VolumeCheck& check) {
 
 void CheckVolumes(Vars& vars, Dialogs& dialogs, Kind kind) {
   vars.DialogResult.clear();
-  vars.DialogResult = dialogs.AskDirectory();
+  vars.DialogResult = dialogs.AskDirectory(DirPurpose::kCheckVolumes);
   if (vars.DialogResult.trimmed().isEmpty()) return;
   std::optional<VolumeCheck> check;
   std::optional<StoreError> failure;

@@ -233,7 +233,7 @@ SearchAnswer QtDialogs::AskInsuredPerson() {
   return view.Ask();
 }
 
-QString QtDialogs::AskDirectory() {
+QString QtDialogs::AskDirectory(DirPurpose /*purpose*/) {
   if (unattended_) {
     Print(texts::kDirTitle, texts::kAppTitle);
     return {};

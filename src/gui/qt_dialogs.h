@@ -66,7 +66,7 @@ class QtDialogs : public Dialogs {
   // The directory dialog over the window shown now, with the normal pointer
   // (OK leaves the hourglass on for the writing that follows); cancelled at
   // once in unattended runs.
-  QString AskDirectory() override;
+  QString AskDirectory(DirPurpose purpose) override;
   // The print preview over the window shown now, modal. In unattended runs
   // no window opens: the pages go as text to standard output, a form feed
   // between them.

@@ -15,6 +15,10 @@ namespace veroxia {
 
 enum class AskStyle { Plain, Question };  // Question: question icon, No as default
 
+// What a directory is chosen for: to write the submission file into it, or
+// to read back the volumes written there before.
+enum class DirPurpose { kWriteVolumes, kCheckVolumes };
+
 // What the file chooser asks: its title, the kinds of file it lists
 // ("Name (*.csv);;..."), and whether a file is to be written (a name that
 // exists is asked about before it is overwritten) or read.
@@ -58,7 +62,7 @@ class Dialogs {
   virtual SearchAnswer AskInsuredPerson() = 0;
   // The target-directory dialog, modal: the full path of the chosen
   // directory, or an empty text when the user cancelled.
-  virtual QString AskDirectory() = 0;
+  virtual QString AskDirectory(DirPurpose purpose) = 0;
   // The print preview of a printout, modal: `draw` prints the whole printout
   // on the printer it is given and answers false when it failed (the user
   // has been told and the job abandoned). The preview draws the pages to

@@ -85,8 +85,9 @@ class FakeDialogs : public Dialogs {
     return answer;
   }
 
-  QString AskDirectory() override {
+  QString AskDirectory(DirPurpose purpose) override {
     ++directories_asked;
+    directory_purposes.push_back(purpose);
     if (directories.empty()) return {};
     const QString answer = directories.front();
     directories.pop_front();
@@ -153,10 +154,11 @@ class FakeDialogs : public Dialogs {
   int searches_asked = 0;
   std::deque<QString> directories;  // scripted answers of the directory dialog; cancel when none
   int directories_asked = 0;
-  std::vector<CapturePrinter> printers;  // one for each preview, in order
-  std::vector<bool> printed;             // what each drawing answered
-  int printer_fails_at = -1;             // see CapturePrinter::fails_at
-  std::vector<Report> confirmed;         // reports shown with a button to go on
+  std::vector<DirPurpose> directory_purposes;  // what each directory was asked for
+  std::vector<CapturePrinter> printers;        // one for each preview, in order
+  std::vector<bool> printed;                   // what each drawing answered
+  int printer_fails_at = -1;                   // see CapturePrinter::fails_at
+  std::vector<Report> confirmed;               // reports shown with a button to go on
   QStringList confirm_captions;
   std::deque<bool> confirms;  // scripted answers of ConfirmReport; go on when none is left
   std::vector<FileQuestion> file_questions;
