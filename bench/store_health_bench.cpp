@@ -31,8 +31,7 @@ const QTemporaryDir& PayrollDir() {
 void BM_PayrollOpenPlain(benchmark::State& state) {
   const QString path = StorePath(PayrollDir().path());
   for (auto _ : state) {
-    auto db = Database::Open(path, StorePassword());
-    CheckSchema(*db);
+    auto db = OpenStoreFile(path, StorePassword());
     benchmark::DoNotOptimize(db);
   }
 }
@@ -47,7 +46,7 @@ void BM_PayrollOpenStoreWithBackgroundCheck(benchmark::State& state) {
     vars.AppDir = PayrollDir().path();
     if (!OpenStore(vars, dialogs)) state.SkipWithError("the store did not open");
     state.PauseTiming();
-    CloseStore(vars);
+    CloseStore(vars, dialogs);
     state.ResumeTiming();
   }
 }
@@ -57,8 +56,7 @@ BENCHMARK(BM_PayrollOpenStoreWithBackgroundCheck)->Unit(benchmark::kMillisecond)
 void BM_PayrollOpenAndQuickCheck(benchmark::State& state) {
   const QString path = StorePath(PayrollDir().path());
   for (auto _ : state) {
-    auto db = Database::Open(path, StorePassword());
-    CheckSchema(*db);
+    auto db = OpenStoreFile(path, StorePassword());
     if (!QuickCheck(*db).isEmpty()) state.SkipWithError("the store is damaged");
   }
 }

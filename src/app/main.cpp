@@ -1,13 +1,16 @@
 // The program: the start screen opens the store and hands over to the other
 // screens. A store that cannot be opened ends the program with status 1
-// before any window is shown.
+// before any window is shown. However the program ends, the store's log is
+// written back into the store file last, and a failure told.
 
 #include <QApplication>
+#include <optional>
 
 #include "gui/app_font.h"
 #include "gui/app_screens.h"
 #include "gui/qt_dialogs.h"
 #include "gui/qt_greek.h"
+#include "shell/store_open.h"
 #include "shell/vars.h"
 
 int main(int argc, char** argv) {
@@ -18,9 +21,15 @@ int main(int argc, char** argv) {
   veroxia::Vars vars;
   vars.AppDir = QCoreApplication::applicationDirPath();
   veroxia::QtDialogs dialogs;
-  veroxia::AppScreens screens(vars, dialogs);
-
-  screens.ShowStart();
-  if (const auto status = screens.QuitStatus()) return *status;
-  return QApplication::exec();
+  int status = 0;
+  {
+    // The screens go first: their readings of the store end before it is
+    // closed.
+    veroxia::AppScreens screens(vars, dialogs);
+    screens.ShowStart();
+    const std::optional<int> quit = screens.QuitStatus();
+    status = quit ? *quit : QApplication::exec();
+  }
+  veroxia::CloseStore(vars, dialogs);
+  return status;
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "cli/console.h"
+#include "cli/texts.h"
 #include "lines/line_import.h"
 #include "lines/line_kinds.h"
 #include "rules/texts.h"
@@ -45,12 +46,12 @@ bool IsLinesCommand(const QString& command) {
 }
 
 QString LinesCommandUsage(const QStringList& args) {
-  if (args.size() != 4) return args[0] + u" needs a kind, an id and a file"_s;
+  if (args.size() != 4) return cli_texts::kNeedsKindIdAndFile.arg(args[0]);
   Kind kind = Kind::Common;
-  if (!ReadKind(args[1], kind)) return u"the kind is common or construction"_s;
+  if (!ReadKind(args[1], kind)) return cli_texts::kKindWords;
   bool number = false;
   const int id = args[2].toInt(&number);
-  if (!number || id < 1 || id > 32767) return u"the id is a number from 1 to 32767"_s;
+  if (!number || id < 1 || id > 32767) return cli_texts::kIdRange;
   return {};
 }
 
@@ -65,19 +66,21 @@ int RunLinesCommand(const QString& store_path, const QStringList& args) {
   vars.AppDir = QCoreApplication::applicationDirPath();
   if (!OpenStoreAt(vars, dialogs, store_path)) return kFailed;
   vars.DeclarationId = static_cast<std::int16_t>(args[2].toInt());
-  if (args[0] == u"export-lines") {
-    return ExportLinesTo(*vars.StoreConnection, kind, vars.DeclarationId, dialogs, file) ? 0
-                                                                                         : kFailed;
-  }
-  try {
-    TakePeriod(vars, kind);
-  } catch (const StoreError&) {
-    // The import itself tells the store's error.
-  }
-  const std::unique_ptr<LinesForm> form = MakeLinesForm(kind, vars, dialogs, screens);
-  const bool stored = ImportLines(*form, dialogs, file);
-  if (vars.Session && !vars.Session->Settle()) return kFailed;
-  return stored ? 0 : kFailed;
+  const auto run = [&] {
+    if (args[0] == u"export-lines") {
+      return ExportLinesTo(*vars.StoreConnection, kind, vars.DeclarationId, dialogs, file);
+    }
+    try {
+      TakePeriod(vars, kind);
+    } catch (const StoreError&) {
+      // The import itself tells the store's error.
+    }
+    const std::unique_ptr<LinesForm> form = MakeLinesForm(kind, vars, dialogs, screens);
+    const bool stored = ImportLines(*form, dialogs, file);
+    return (!vars.Session || vars.Session->Settle()) && stored;
+  };
+  const bool done = run();
+  return CloseStore(vars, dialogs) && done ? 0 : kFailed;
 }
 
 }  // namespace veroxia::cli

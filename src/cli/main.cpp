@@ -13,6 +13,7 @@
 #include "cli/console.h"
 #include "cli/lines_commands.h"
 #include "cli/store_commands.h"
+#include "cli/texts.h"
 #include "cli/verify_command.h"
 #include "filing/create_file.h"
 #include "filing/totals.h"
@@ -21,6 +22,7 @@
 #include "printing/text_printer.h"
 #include "shell/errors.h"
 #include "shell/ports.h"
+#include "shell/store_open.h"
 #include "shell/texts.h"
 #include "shell/vars.h"
 #include "store/declarations.h"
@@ -36,58 +38,9 @@ using namespace Qt::StringLiterals;
 constexpr int kFailed = 1;
 constexpr int kUsage = 2;
 
-const char* const kHelp =
-    "Usage: veroxia-cli [--store PATH] COMMAND\n"
-    "\n"
-    "Commands:\n"
-    "  list                              the stored declarations, one a line:\n"
-    "                                    kind, id, period, type, number of lines\n"
-    "  volumes common|construction ID DIRECTORY\n"
-    "                                    writes the submission file of the\n"
-    "                                    declaration into DIRECTORY\n"
-    "  check common|construction ID      the header's totals against the sums\n"
-    "                                    of the lines; exit status 0 when all\n"
-    "                                    agree, 1 when not, 2 on an error\n"
-    "  print summary|declaration common|construction ID --pdf FILE|--text\n"
-    "                                    the pages of the summary form or of\n"
-    "                                    the whole declaration: as a PDF file,\n"
-    "                                    or as text on standard output with a\n"
-    "                                    form feed between pages\n"
-    "  verify DIRECTORY [--against common|construction ID]\n"
-    "                                    reads the volumes in DIRECTORY back\n"
-    "                                    and checks every record, against the\n"
-    "                                    stored declaration's counts with\n"
-    "                                    --against; exit status 0 when all\n"
-    "                                    holds, 1 when not, 2 on an error\n"
-    "  import common|construction ID FILE\n"
-    "                                    brings the employee lines of a CSV\n"
-    "                                    file into the declaration, each checked\n"
-    "                                    as the employee screen checks it: all\n"
-    "                                    are stored, or none; every failing row\n"
-    "                                    is told on standard error; exit status\n"
-    "                                    0 when stored, 1 when not\n"
-    "  export-lines common|construction ID FILE\n"
-    "                                    writes the declaration's lines to a CSV\n"
-    "                                    file that import reads back\n"
-    "  backup                            copies the store now into the folder\n"
-    "                                    backups/ beside it; prints the copy's path\n"
-    "  restore FILE                      puts FILE, a copy of the store, in the\n"
-    "                                    store's place once its password, tables\n"
-    "                                    and health are proven; the replaced store\n"
-    "                                    is kept in backups/; refused while the\n"
-    "                                    program holds the store\n"
-    "\n"
-    "Options:\n"
-    "  --store PATH   the store file (default: QorDb.mdb beside the program)\n"
-    "  --help         this text\n"
-    "\n"
-    "Exit status: 0 when done; 1 when the store, the file or the printout\n"
-    "failed, the declaration has no submission date, or a restore was refused;\n"
-    "2 for a wrong command line.\n";
-
 int Usage(const QString& why) {
   Print(stderr, u"veroxia-cli: "_s + why);
-  std::fputs(kHelp, stderr);
+  std::fputs(cli_texts::kHelp, stderr);
   return kUsage;
 }
 
@@ -110,7 +63,7 @@ int Check(Database& db, Kind kind, int id) {
   try {
     const std::optional<TotalsReport> report = CompareTotals(db, kind, id);
     if (!report) {
-      Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
+      Print(stderr, u"veroxia-cli: "_s + cli_texts::kNoDeclaration.arg(id));
       return kUsage;
     }
     for (const QString& line : ReportText(TotalsWindow(*report))) Print(stdout, line);
@@ -144,12 +97,12 @@ int main(int argc, char** argv) {
   const std::unique_ptr<QCoreApplication> app = MakeApplication(argc, argv);
   QStringList args = QCoreApplication::arguments().mid(1);
   if (args.isEmpty() || args.contains(u"--help"_s)) {
-    std::fputs(kHelp, args.isEmpty() ? stderr : stdout);
+    std::fputs(cli_texts::kHelp, args.isEmpty() ? stderr : stdout);
     return args.isEmpty() ? kUsage : 0;
   }
   QString store = StorePath(QCoreApplication::applicationDirPath());
   if (const qsizetype at = args.indexOf(u"--store"_s); at >= 0) {
-    if (at + 1 >= args.size()) return Usage(u"--store needs a path"_s);
+    if (at + 1 >= args.size()) return Usage(cli_texts::kStoreNeedsFile);
     store = args.at(at + 1);
     args.remove(at, 2);
   }
@@ -168,67 +121,72 @@ int main(int argc, char** argv) {
   QString id_text;
   QString pdf_file;  // empty: the pages as text
   if (command == u"volumes") {
-    if (args.size() != 4) return Usage(u"volumes needs a kind, an id and a directory"_s);
-    if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
+    if (args.size() != 4) return Usage(cli_texts::kNeedsKindIdAndDirectory.arg(command));
+    if (!ReadKind(args[1], kind)) return Usage(cli_texts::kKindWords);
     id_text = args[2];
   } else if (command == u"check") {
-    if (args.size() != 3) return Usage(u"check needs a kind and an id"_s);
-    if (!ReadKind(args[1], kind)) return Usage(u"the kind is common or construction"_s);
+    if (args.size() != 3) return Usage(cli_texts::kNeedsKindAndId.arg(command));
+    if (!ReadKind(args[1], kind)) return Usage(cli_texts::kKindWords);
     id_text = args[2];
   } else if (command == u"print") {
     const bool text = args.size() == 5 && args[4] == u"--text";
     const bool pdf = args.size() == 6 && args[4] == u"--pdf";
     if (!text && !pdf) {
-      return Usage(u"print needs a printout, a kind, an id and --pdf FILE or --text"_s);
+      return Usage(cli_texts::kPrintNeeds);
     }
     pdf_file = pdf ? args[5] : QString();
     if (args[1] == u"declaration") {
       printout = Printout::kDeclaration;
     } else if (args[1] != u"summary") {
-      return Usage(u"the printout is summary or declaration"_s);
+      return Usage(cli_texts::kPrintoutWords);
     }
-    if (!ReadKind(args[2], kind)) return Usage(u"the kind is common or construction"_s);
+    if (!ReadKind(args[2], kind)) return Usage(cli_texts::kKindWords);
     id_text = args[3];
   } else if (command != u"list" || args.size() != 1) {
-    return Usage(u"unknown command: "_s + args.join(u' '));
+    return Usage(cli_texts::kUnknownCommand + args.join(u' '));
   }
   int id = 0;
   if (command != u"list") {
     bool number = false;
     id = id_text.toInt(&number);
-    if (!number || id < 1 || id > 32767) return Usage(u"the id is a number from 1 to 32767"_s);
+    if (!number || id < 1 || id > 32767) return Usage(cli_texts::kIdRange);
   }
 
   Vars vars;
   vars.AppDir = QCoreApplication::applicationDirPath();
   try {
-    vars.StoreConnection = Database::Open(store, StorePassword());
-    CheckSchema(*vars.StoreConnection);
+    vars.StoreConnection = OpenStoreFile(store, StorePassword());
   } catch (const StoreError& error) {
-    Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+    Print(stderr, OpenFailedMessage(store, error));
     return kFailed;
   }
   vars.StoreOpen = true;
-  if (command == u"list") {
-    try {
-      return List(*vars.StoreConnection);
-    } catch (const StoreError& error) {
-      Print(stderr, ErrorMessage(texts::kStoreCritical, error));
-      return kFailed;
-    }
-  }
   vars.DeclarationId = static_cast<std::int16_t>(id);
-  if (command == u"check") return Check(*vars.StoreConnection, kind, id);
-  if (command == u"print") {
-    ConsoleDialogs dialogs;
-    std::unique_ptr<Printer> printer;
-    if (pdf_file.isEmpty()) {
-      printer = std::make_unique<TextPrinter>(stdout);
-    } else {
-      printer = std::make_unique<PdfPrinter>(pdf_file);
+  ConsoleDialogs dialogs(command == u"volumes" ? args[3] : QString());
+  const auto run = [&]() -> int {
+    if (command == u"list") {
+      try {
+        return List(*vars.StoreConnection);
+      } catch (const StoreError& error) {
+        Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+        return kFailed;
+      }
     }
-    return RunPrintout(vars, dialogs, kind, printout, *printer) ? 0 : kFailed;
-  }
-  ConsoleDialogs dialogs(args[3]);
-  return CreateFile(vars, dialogs, kind) == FileOutcome::kWritten ? 0 : kFailed;
+    if (command == u"check") return Check(*vars.StoreConnection, kind, id);
+    if (command == u"print") {
+      std::unique_ptr<Printer> printer;
+      if (pdf_file.isEmpty()) {
+        printer = std::make_unique<TextPrinter>(stdout);
+      } else {
+        printer = std::make_unique<PdfPrinter>(pdf_file);
+      }
+      return RunPrintout(vars, dialogs, kind, printout, *printer) ? 0 : kFailed;
+    }
+    return CreateFile(vars, dialogs, kind) == FileOutcome::kWritten ? 0 : kFailed;
+  };
+  const int status = run();
+  // A log that cannot be written back is a failure of the store: check
+  // tells those with its own status.
+  if (!CloseStore(vars, dialogs) && status == 0) return command == u"check" ? kUsage : kFailed;
+  return status;
 }

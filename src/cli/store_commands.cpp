@@ -4,8 +4,10 @@
 #include <cstdio>
 
 #include "cli/console.h"
+#include "cli/texts.h"
 
 #include "shell/errors.h"
+#include "shell/store_open.h"
 #include "shell/store_session.h"
 #include "shell/store_texts.h"
 #include "shell/texts.h"
@@ -13,6 +15,7 @@
 #include "store/restore.h"
 #include "store/schema.h"
 #include "store/store_file.h"
+#include "store/store_lock.h"
 
 namespace veroxia::cli {
 
@@ -23,14 +26,17 @@ using namespace Qt::StringLiterals;
 constexpr int kFailed = 1;
 
 // backup: a copy of the store now, as the program makes before the first
-// change of a session; its path on standard output.
+// change of a session; its path on standard output. While the program runs
+// the copy is made all the same, but what a broken backup or restore left
+// behind is removed only when no program holds the store.
 int Backup(const QString& store_path) {
+  StoreLock lock(store_path);
+  if (lock.Take() == StoreLock::Outcome::kHeld) RemoveLeftovers(store_path);
   std::unique_ptr<Database> db;
   try {
-    db = Database::Open(store_path, StorePassword());
-    CheckSchema(*db);
+    db = OpenStoreFile(store_path, StorePassword());
   } catch (const StoreError& error) {
-    Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+    Print(stderr, OpenFailedMessage(store_path, error));
     return kFailed;
   }
   try {
@@ -39,7 +45,8 @@ int Backup(const QString& store_path) {
     Print(stderr, BackupFailedMessage(store_path, error));
     return kFailed;
   }
-  return 0;
+  ConsoleDialogs dialogs;
+  return WriteBackStore(*db, dialogs) ? 0 : kFailed;
 }
 
 QString RestoreFaultLine(RestoreFault fault, const QString& store_path, const QString& file) {
@@ -56,6 +63,8 @@ QString RestoreFaultLine(RestoreFault fault, const QString& store_path, const QS
       return store_texts::kRestoreOtherSchema.arg(file);
     case RestoreFault::kDamaged:
       return store_texts::kRestoreDamaged.arg(file);
+    case RestoreFault::kDiskFull:
+      return store_texts::kRestoreDiskFull.arg(file);
     case RestoreFault::kFailed:
       break;
   }
@@ -73,13 +82,13 @@ int Restore(const QString& store_path, const QString& file) {
     return 0;
   } catch (const RestoreError& error) {
     QString text = RestoreFaultLine(error.fault, store_path, file);
-    // SQLite's words say more where the file opened: which table is missing,
-    // what the check found, what failed.
-    const bool opened = error.fault == RestoreFault::kOtherSchema ||
-                        error.fault == RestoreFault::kDamaged ||
-                        error.fault == RestoreFault::kFailed;
-    if (opened && !error.detail.isEmpty()) {
-      text += u"\r\n"_s + texts::kErrorDescription + error.detail;
+    // What failed, where the fault line does not say it: which table is
+    // missing, which step failed.
+    const QString detail = error.code != 0
+                               ? ErrorDescription(StoreError{error.code, error.detail, true})
+                               : error.detail;
+    if (!detail.isEmpty()) {
+      text += u"\r\n"_s + texts::kErrorDescription + detail;
     }
     Print(stderr, text + u"\r\n"_s + store_texts::kNothingChanged);
     return kFailed;
@@ -93,8 +102,8 @@ bool IsStoreCommand(const QString& command) {
 }
 
 QString StoreCommandUsage(const QStringList& args) {
-  if (args.value(0) == u"backup" && args.size() != 1) return u"backup takes no more words"_s;
-  if (args.value(0) == u"restore" && args.size() != 2) return u"restore needs one file"_s;
+  if (args.value(0) == u"backup" && args.size() != 1) return cli_texts::kNoMoreWords.arg(args[0]);
+  if (args.value(0) == u"restore" && args.size() != 2) return cli_texts::kNeedsOneFile.arg(args[0]);
   return {};
 }
 

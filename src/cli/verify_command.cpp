@@ -4,9 +4,10 @@
 #include <cstdio>
 
 #include "cli/console.h"
+#include "cli/texts.h"
 
 #include "filing/volume_check.h"
-#include "shell/errors.h"
+#include "shell/store_open.h"
 #include "shell/texts.h"
 #include "store/schema.h"
 #include "store/store_file.h"
@@ -26,33 +27,34 @@ constexpr int kError = 2;
 int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(const QString& why)) {
   const bool against = args.size() == 4 && args[1] == u"--against";
   if (args.size() != 1 && !against) {
-    return usage(u"verify needs a directory, and --against with a kind and an id"_s);
+    return usage(cli_texts::kVerifyNeeds);
   }
   const QString& directory = args[0];
   Kind kind = Kind::Common;
   int id = 0;
   if (against) {
-    if (!cli::ReadKind(args[2], kind)) return usage(u"the kind is common or construction"_s);
+    if (!cli::ReadKind(args[2], kind)) return usage(cli_texts::kKindWords);
     bool number = false;
     id = args[3].toInt(&number);
-    if (!number || id < 1 || id > 32767) return usage(u"the id is a number from 1 to 32767"_s);
+    if (!number || id < 1 || id > 32767) return usage(cli_texts::kIdRange);
   }
   if (directory.isEmpty() || !QDir(directory).exists()) {
-    Print(stderr, u"veroxia-cli: no such directory: "_s + directory);
+    Print(stderr, u"veroxia-cli: "_s + cli_texts::kNoDirectory.arg(directory));
     return kError;
   }
   std::optional<VolumeCounts> expected;
   if (against) {
     try {
-      const auto db = Database::Open(store, StorePassword());
-      CheckSchema(*db);
+      const auto db = OpenStoreFile(store, StorePassword());
       expected = ExpectedCounts(*db, kind, id);
+      cli::ConsoleDialogs dialogs;
+      if (!WriteBackStore(*db, dialogs)) return kError;
     } catch (const StoreError& error) {
-      Print(stderr, ErrorMessage(texts::kStoreCritical, error));
+      Print(stderr, OpenFailedMessage(store, error));
       return kError;
     }
     if (!expected) {
-      Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
+      Print(stderr, u"veroxia-cli: "_s + cli_texts::kNoDeclaration.arg(id));
       return kError;
     }
   }

@@ -131,7 +131,7 @@ void StartForm::CancelCmd_Click() {
 }
 
 void StartForm::Command3_Click() {
-  CloseStore(vars_);
+  CloseStore(vars_, dialogs_);
   screens_.Quit(0);
 }
 

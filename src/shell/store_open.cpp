@@ -8,12 +8,19 @@
 #include "shell/errors.h"
 #include "shell/store_texts.h"
 #include "shell/texts.h"
+#include "store/backups.h"
 #include "store/schema.h"
 #include "store/store_file.h"
 
 namespace veroxia {
 
 namespace {
+
+using namespace Qt::StringLiterals;
+
+// How long the write-back at close waits for another program's read of the
+// store to end.
+constexpr int kWriteBackWaitMs = 1000;
 
 // Why the store could not be written, if so: found at once rather than at the
 // first save. The owner's write permission is asked for even where the
@@ -30,7 +37,27 @@ QString WriteProblem(const QString& path) {
   return {};
 }
 
+QString Critical(const StoreError& error, const QString& description) {
+  return texts::kStoreCritical + u'\r' + texts::kErrorCode + QString::number(error.code) + u'\r' +
+         description;
+}
+
 }  // namespace
+
+QString OpenFailedMessage(const QString& path, const StoreError& error) {
+  switch (error.code & 0xff) {
+    case SQLITE_CORRUPT:
+      return DamagedStoreMessage(path);
+    case SQLITE_ERROR:  // a table or a column of ours is missing
+      return store_texts::kNotOurStore.arg(path);
+    case SQLITE_NOTADB:
+      // A file of another password cannot be told from random bytes.
+      if (LooksEncrypted(path)) return Critical(error, store_texts::kOtherPassword.arg(path));
+      return store_texts::kNotOurStore.arg(path);
+    default:
+      return Critical(error, ErrorDescription(error));
+  }
+}
 
 bool OpenStore(Vars& vars, Dialogs& dialogs, std::function<void()> end_program) {
   return OpenStoreAt(vars, dialogs, StorePath(vars.AppDir), std::move(end_program));
@@ -57,14 +84,12 @@ bool OpenStoreAt(Vars& vars, Dialogs& dialogs, const QString& path,
     case StoreLock::Outcome::kNoWriting:
       return refuse(store_texts::kFolderReadOnly.arg(QFileInfo(path).absolutePath()));
   }
+  RemoveLeftovers(path);
   std::unique_ptr<Database> db;
   try {
-    db = Database::Open(path, StorePassword());
-    CheckSchema(*db);
+    db = OpenStoreFile(path, StorePassword());
   } catch (const StoreError& error) {
-    if ((error.code & 0xff) == SQLITE_CORRUPT) return refuse(DamagedStoreMessage(path));
-    return refuse(texts::kStoreCritical + u'\r' + texts::kErrorCode + QString::number(error.code) +
-                  u'\r' + ErrorDescription(error));
+    return refuse(OpenFailedMessage(path, error));
   }
   session->Watch(*db);
   vars.Session = std::move(session);
@@ -73,10 +98,30 @@ bool OpenStoreAt(Vars& vars, Dialogs& dialogs, const QString& path,
   return true;
 }
 
-void CloseStore(Vars& vars) {
+bool WriteBackStore(Database& db, Dialogs& dialogs) {
+  try {
+    db.WriteBack(kWriteBackWaitMs);
+    return true;
+  } catch (const StoreError& error) {
+    dialogs.Message(store_texts::kWriteBackFailed.arg(db.FileName()) + u"\r\n"_s +
+                        texts::kErrorDescription + ErrorDescription(error),
+                    texts::kAppTitle);
+    return false;
+  }
+}
+
+bool CloseStore(Vars& vars, Dialogs& dialogs) {
+  bool written = true;
+  if (vars.StoreConnection) {
+    // The health check reads on a connection of its own, which must not
+    // hold the log back.
+    if (vars.Session) vars.Session->StopCheck();
+    written = WriteBackStore(*vars.StoreConnection, dialogs);
+  }
   vars.StoreConnection.reset();
   vars.Session.reset();
   vars.StoreOpen = false;
+  return written;
 }
 
 }  // namespace veroxia

@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 
+#include "shell/errors.h"
 #include "shell/store_texts.h"
 #include "shell/texts.h"
 #include "store/backups.h"
@@ -38,14 +39,8 @@ QString BackupFailedMessage(const QString& store_path, const StoreError& error) 
     case SQLITE_PERM:
       reason = store_texts::kFolderNotWritable;
       break;
-    case SQLITE_FULL:
-      reason = texts::kStoreDiskFull;
-      break;
-    case SQLITE_IOERR:
-      reason = texts::kStoreIoError;
-      break;
     default:
-      reason = error.description;
+      reason = ErrorDescription(error);
   }
   return store_texts::kBackupFailed.arg(BackupFolder(store_path)) + kNewLine +
          texts::kErrorDescription + reason;

@@ -39,6 +39,8 @@ class StoreSession {
   // Starts the health check and has `db` make a backup before its first
   // change, once the check has found the store sound.
   void Watch(Database& db);
+  // Stops the health check, if it still runs, and lets go of its reading.
+  void StopCheck() { check_.reset(); }
   // Waits for the health check. False when the store is damaged: the user
   // has been told (once) and the program is ending.
   bool Settle();

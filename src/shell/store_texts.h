@@ -15,11 +15,24 @@ inline const QString kFolderReadOnly =
     u"ΠΡΟΣΟΧΗ!! Ο φάκελος '%1' του αρχείου δηλώσεων επιτρέπει μόνο ανάγνωση. Οι δηλώσεις δεν μπορούν να αποθηκευτούν. Το πρόγραμμα θα κλείσει."_s;
 inline const QString kHeld =
     u"ΠΡΟΣΟΧΗ!! Το αρχείο δηλώσεων '%1' χρησιμοποιείται ήδη από άλλο πρόγραμμα. Το πρόγραμμα θα κλείσει."_s;
+// A file in the store's place that is no store of ours: empty, another
+// program's, or a database without our tables. It is left as it lies.
+inline const QString kNotOurStore =
+    u"ΠΡΟΣΟΧΗ!! Το αρχείο '%1' δεν είναι αρχείο δηλώσεων αυτού του προγράμματος. Το πρόγραμμα θα κλείσει."_s;
+// The description of a file that the store password does not open but that
+// looks encrypted.
+inline const QString kOtherPassword =
+    u"Το αρχείο '%1' έχει άλλον κωδικό ή δεν είναι αρχείο δηλώσεων αυτού του προγράμματος."_s;
 inline const QString kDamaged =
     u"ΠΡΟΣΟΧΗ!! Το αρχείο δηλώσεων '%1' είναι κατεστραμμένο. Το πρόγραμμα δεν θα γράψει σε αυτό και θα κλείσει."_s;
 inline const QString kBackupsListed = u"Αντίγραφα ασφαλείας στο φάκελο '%1', το νεότερο πρώτο:"_s;
 inline const QString kNoBackups = u"Δεν υπάρχουν αντίγραφα ασφαλείας στο φάκελο '%1'."_s;
 inline const QString kRestoreHint = u"Επαναφορά ενός αντιγράφου: veroxia-cli restore ΑΡΧΕΙΟ"_s;
+
+// The write-ahead log that could not be written back into the store when
+// it was closed. "%1" stands for the store.
+inline const QString kWriteBackFailed =
+    u"ΠΡΟΣΟΧΗ!! Οι τελευταίες αλλαγές δεν μεταφέρθηκαν από το αρχείο καταγραφής '%1-wal' στο αρχείο δηλώσεων '%1'. Δεν χάθηκε τίποτα: το αρχείο καταγραφής μένει δίπλα στο αρχείο δηλώσεων και οι αλλαγές του περνούν σε αυτό στο επόμενο άνοιγμα. Μην το διαγράψετε και μην αντιγράψετε το αρχείο δηλώσεων χωρίς αυτό."_s;
 
 // A backup that could not be made; the change goes ahead all the same.
 inline const QString kBackupFailed =
@@ -38,6 +51,8 @@ inline const QString kRestoreNotAStore = u"ΠΡΟΣΟΧΗ!! Το αρχείο '%
 inline const QString kRestoreOtherSchema =
     u"ΠΡΟΣΟΧΗ!! Το αρχείο '%1' δεν έχει τους πίνακες του αρχείου δηλώσεων."_s;
 inline const QString kRestoreDamaged = u"ΠΡΟΣΟΧΗ!! Το αρχείο '%1' είναι κατεστραμμένο."_s;
+inline const QString kRestoreDiskFull =
+    u"ΠΡΟΣΟΧΗ!! Η επαναφορά από το αρχείο '%1' απέτυχε: δεν υπάρχει ελεύθερος χώρος στο δίσκο."_s;
 inline const QString kRestoreFailed = u"ΠΡΟΣΟΧΗ!! Η επαναφορά από το αρχείο '%1' απέτυχε."_s;
 inline const QString kNothingChanged = u"Το αρχείο δηλώσεων δεν άλλαξε."_s;
 inline const QString kRestored = u"Το αρχείο δηλώσεων '%1' επαναφέρθηκε από το '%2'."_s;

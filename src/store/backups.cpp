@@ -11,6 +11,10 @@
 #include <utility>
 #include <vector>
 
+#include "store/file_copy.h"
+#include "store/store_file.h"
+#include "store/texts.h"
+
 namespace veroxia {
 
 namespace {
@@ -50,10 +54,14 @@ struct Found {
   QString path;
 };
 
+// A copy's name, its stamp and its number within the second captured.
+QString CopyPattern(const Naming& naming) {
+  return QRegularExpression::escape(naming.base) + u"-(\\d{8}-\\d{6})(?:-(\\d+))?"_s +
+         QRegularExpression::escape(naming.suffix);
+}
+
 std::vector<Found> Find(const Naming& naming) {
-  const QRegularExpression pattern(u"^"_s + QRegularExpression::escape(naming.base) +
-                                   u"-(\\d{8}-\\d{6})(?:-(\\d+))?"_s +
-                                   QRegularExpression::escape(naming.suffix) + u'$');
+  const QRegularExpression pattern(u'^' + CopyPattern(naming) + u'$');
   std::vector<Found> found;
   const QDir folder(naming.folder);
   for (const QString& name : folder.entryList(QDir::Files)) {
@@ -68,14 +76,11 @@ std::vector<Found> Find(const Naming& naming) {
   return found;
 }
 
-// The files SQLite may keep beside a store of that path.
-const QStringList kCompanions{u"-wal"_s, u"-shm"_s, u"-journal"_s};
-
 void RemoveAllBut(const Naming& naming, int keep) {
   const std::vector<Found> found = Find(naming);
   for (size_t i = static_cast<size_t>(std::max(keep, 0)); i < found.size(); ++i) {
     QFile::remove(found[i].path);
-    for (const QString& companion : kCompanions) QFile::remove(found[i].path + companion);
+    for (const QString& companion : CompanionSuffixes()) QFile::remove(found[i].path + companion);
   }
 }
 
@@ -83,7 +88,7 @@ void RemoveAllBut(const Naming& naming, int keep) {
 // second's next number when the second has one already.
 QString NewCopyPath(const Naming& naming, const QDateTime& when) {
   if (!QDir().mkpath(naming.folder)) {
-    throw StoreError{SQLITE_CANTOPEN, u"cannot make the folder "_s + naming.folder};
+    throw StoreError{SQLITE_CANTOPEN, store_file_texts::kFolderNotMade.arg(naming.folder)};
   }
   const QString stem = QDir(naming.folder).filePath(naming.base + u'-' + Stamp(when));
   for (int number = 1;; ++number) {
@@ -107,22 +112,43 @@ void Publish(const QString& path, const QStringList& also,
   } cleanup{QStringList{part} + also};
   write(part);
   if (!QFile::rename(part, path)) {
-    throw StoreError{SQLITE_CANTOPEN, u"cannot rename "_s + part + u" to "_s + path};
+    throw StoreError{SQLITE_CANTOPEN, store_file_texts::kNotRenamed.arg(part, path)};
   }
   cleanup.files.clear();
 }
 
 void CopyFile(const QString& from, const QString& to) {
-  QFile file(from);
-  if (!file.copy(to)) {
-    throw StoreError{SQLITE_IOERR, file.errorString() + u": "_s + from + u" -> "_s + to};
-  }
+  const std::optional<CopyFailure> failure = CopyFileBytes(from, to);
+  if (!failure) return;
+  if (failure->reading) throw StoreError{SQLITE_IOERR, store_file_texts::kNotRead.arg(from)};
+  if (IsDiskFull(failure->error))
+    throw StoreError{SQLITE_FULL, store_file_texts::kDiskFull.arg(to)};
+  throw StoreError{SQLITE_IOERR, store_file_texts::kNotWritten.arg(to)};
 }
 
 }  // namespace
 
 QString BackupFolder(const QString& store_path) {
   return QFileInfo(store_path).absoluteDir().filePath(u"backups"_s);
+}
+
+QString RestoreCopyPath(const QString& store_path) { return store_path + u".restore"_s; }
+
+void RemoveLeftovers(const QString& store_path) {
+  const Naming naming = NamingOf(store_path);
+  const QRegularExpression pattern(u"^("_s + CopyPattern(naming) +
+                                   u")(\\.part)?(-wal|-shm|-journal)?$"_s);
+  const QDir folder(naming.folder);
+  for (const QString& name : folder.entryList(QDir::Files)) {
+    const QRegularExpressionMatch match = pattern.match(name);
+    if (!match.hasMatch()) continue;
+    const bool temporary = match.hasCaptured(4);
+    const bool orphan = match.hasCaptured(5) && !folder.exists(match.captured(1));
+    if (temporary || orphan) QFile::remove(folder.filePath(name));
+  }
+  const QString restore_copy = RestoreCopyPath(store_path);
+  QFile::remove(restore_copy);
+  for (const QString& companion : CompanionSuffixes()) QFile::remove(restore_copy + companion);
 }
 
 QStringList ListBackups(const QString& store_path) {

@@ -23,6 +23,17 @@ QString BackupFolder(const QString& store_path);
 // other names in the folder are none of ours and never listed or removed.
 QStringList ListBackups(const QString& store_path);
 
+// The working copy that a restore makes beside the store before it takes
+// the store's place.
+QString RestoreCopyPath(const QString& store_path);
+
+// Removes what a backup or a restore broken off (a crash, a kill) left
+// behind: copies under their temporary name, a copy's log without its copy,
+// and the restore's working copy with its companions. Files of other names
+// stay. Only for the holder of the store's lock: a backup or a restore under
+// way would lose its file.
+void RemoveLeftovers(const QString& store_path);
+
 // Copies the store open in `db` (the file at store_path, keyed with
 // password) with SQLite's online backup into a new copy named by `when`,
 // then removes all but the newest `keep`. Answers the copy's path. Throws

@@ -3,9 +3,13 @@
 #include <sqlcipher/sqlite3.h>
 
 #include <QByteArray>
+#include <QFile>
 #include <QFileInfo>
+#include <set>
 #include <string>
 #include <unordered_map>
+
+#include "store/texts.h"
 
 namespace veroxia {
 
@@ -17,10 +21,20 @@ namespace {
 
 StoreError ErrorOf(sqlite3* db, int code) {
   const char* text = db != nullptr ? sqlite3_errmsg(db) : sqlite3_errstr(code);
-  return StoreError{code, QString::fromUtf8(text)};
+  return StoreError{code, QString::fromUtf8(text), true};
 }
 
 }  // namespace
+
+bool LooksEncrypted(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return false;
+  const qint64 size = file.size();
+  const QByteArray page = file.read(1024);
+  if (size < 1024 || size % 512 != 0 || page.startsWith("SQLite format 3")) return false;
+  const std::set<char> distinct(page.begin(), page.end());
+  return distinct.size() >= 200;
+}
 
 Database::Database(sqlite3* db) : db_(db), cache_(std::make_unique<Cache>()) {}
 
@@ -59,20 +73,27 @@ std::unique_ptr<Database> Database::OpenWith(const QString& path, const QString&
   return db;
 }
 
-std::unique_ptr<Database> Database::Open(const QString& path, const QString& password) {
+std::unique_ptr<Database> Database::Open(const QString& path, const QString& password,
+                                         const std::function<void(Database&)>& prove) {
+  const QFileInfo info(path);
   // A file the user marked read-only is refused before SQLite could quietly
   // open it for reading only (or, for root, write to it anyway).
-  const QFileInfo info(path);
   if (info.exists() && !(info.permissions() & QFileDevice::WriteOwner)) {
-    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
+    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), true};
+  }
+  // SQLite takes an empty file for an empty database and would write one
+  // into it at the first change.
+  if (info.isFile() && info.size() == 0) {
+    throw StoreError{SQLITE_NOTADB, QString::fromUtf8(sqlite3_errstr(SQLITE_NOTADB)), true};
   }
   auto db = OpenWith(path, password, SQLITE_OPEN_READWRITE);
   // The key is only tried on the first read: a wrong password or a file that
   // is no store fails here with "file is not a database".
   db->Exec("SELECT count(*) FROM sqlite_master");
   if (sqlite3_db_readonly(db->db_, "main") == 1) {
-    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY))};
+    throw StoreError{SQLITE_READONLY, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY)), true};
   }
+  if (prove) prove(*db);
   UseWriteAheadLog(*db);
   return db;
 }
@@ -85,7 +106,7 @@ std::unique_ptr<Database> Database::OpenReadOnly(const QString& path, const QStr
 
 std::unique_ptr<Database> Database::Create(const QString& path, const QString& password) {
   if (QFileInfo::exists(path)) {
-    throw StoreError{SQLITE_CANTOPEN, QStringLiteral("the file exists already: ") + path};
+    throw StoreError{SQLITE_CANTOPEN, store_file_texts::kExistsAlready.arg(path)};
   }
   auto db = OpenWith(path, password, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   UseWriteAheadLog(*db);  // a new store is made in the mode it is opened in
@@ -147,6 +168,27 @@ void Database::StopWhen(const std::atomic<bool>* stop) {
       [](void* flag) -> int { return static_cast<const std::atomic<bool>*>(flag)->load() ? 1 : 0; },
       const_cast<std::atomic<bool>*>(stop));
 }
+
+void Database::WriteBack(int wait_ms) {
+  // A statement under way holds a read of the store, which a write-back
+  // from the same connection cannot pass.
+  for (sqlite3_stmt* stmt = sqlite3_next_stmt(db_, nullptr); stmt != nullptr;
+       stmt = sqlite3_next_stmt(db_, stmt)) {
+    sqlite3_reset(stmt);
+  }
+  sqlite3_busy_timeout(db_, wait_ms);
+  int frames = 0;
+  int written = 0;
+  const int rc =
+      sqlite3_wal_checkpoint_v2(db_, "main", SQLITE_CHECKPOINT_TRUNCATE, &frames, &written);
+  sqlite3_busy_timeout(db_, 10'000);
+  // Busy with every frame written: only the emptying of the log waits for
+  // another connection's read, and the store file holds everything.
+  if (rc == SQLITE_OK || (rc == SQLITE_BUSY && written == frames)) return;
+  throw ErrorOf(db_, rc);
+}
+
+QString Database::FileName() const { return QString::fromUtf8(sqlite3_db_filename(db_, "main")); }
 
 // The copy is written without a journal: a copy that fails half-way is
 // thrown away, never repaired. Its pages pass through the store's key and

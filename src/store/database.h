@@ -21,20 +21,31 @@ namespace veroxia {
 
 using Text = std::optional<QString>;  // a text column that may be Null
 
-// A failure of the store: SQLite's result code and its description.
+// A failure of the store: SQLite's result code and its description, ours
+// or SQLite's own words, which are English and never shown to the user.
 struct StoreError {
   int code = 0;
   QString description;
+  bool sqlite_words = false;
 };
 
 class Statement;
 
+// Whether the file looks like an encrypted store, of whatever password:
+// whole pages, not SQLite's plain header, and a first page of bytes that
+// look random.
+bool LooksEncrypted(const QString& path);
+
 class Database {
  public:
   // Opens an existing store file for reading and writing, keyed with the
-  // password, and proves the key by reading the schema. Never creates the
-  // file. Throws StoreError.
-  static std::unique_ptr<Database> Open(const QString& path, const QString& password);
+  // password. Nothing is written to the file until the key is proven by a
+  // read and `prove`, when given, has read what else must hold: a file that
+  // fails (empty, another program's, of another password) is left as it
+  // lies. Only then does the store take up its write-ahead log. Never
+  // creates the file. Throws StoreError, SQLITE_NOTADB for an empty file.
+  static std::unique_ptr<Database> Open(const QString& path, const QString& password,
+                                        const std::function<void(Database&)>& prove = {});
   // Creates a new, empty, encrypted store file. Throws StoreError when the
   // file exists already or cannot be made.
   static std::unique_ptr<Database> Create(const QString& path, const QString& password);
@@ -70,6 +81,15 @@ class Database {
   // soon after `*stop` is set, from any thread. The flag must outlive the
   // connection.
   void StopWhen(const std::atomic<bool>* stop);
+  // Writes the write-ahead log back into the store file, as closing does,
+  // and empties the log; the statements under way end first. Throws
+  // StoreError when part of the log stays unwritten (another connection
+  // still reads an older state of the store, a failing disk): nothing is
+  // lost then, the log stays beside the store and is applied when it is
+  // next opened. Waits at most `wait_ms` for other connections.
+  void WriteBack(int wait_ms);
+  // The file the connection works on.
+  QString FileName() const;
   // Copies the store, as committed, into a new file at `path` keyed with
   // `password`, with SQLite's online backup. Throws StoreError; the file may
   // then be left partly written.

@@ -5,34 +5,21 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <cerrno>
 #include <cstdio>
-#include <set>
+#include <optional>
 
 #include "store/backups.h"
+#include "store/file_copy.h"
 #include "store/health.h"
 #include "store/schema.h"
+#include "store/store_file.h"
 #include "store/store_lock.h"
+#include "store/texts.h"
 
 namespace veroxia {
 
 namespace {
-
-using namespace Qt::StringLiterals;
-
-const QStringList kCompanions{u"-wal"_s, u"-shm"_s, u"-journal"_s};
-
-// A file that the key does not open is an encrypted store of another password
-// when it looks like one: whole pages, not SQLite's plain header, and a first
-// page of bytes that look random.
-bool LooksEncrypted(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return false;
-  const qint64 size = file.size();
-  const QByteArray page = file.read(1024);
-  if (size < 1024 || size % 512 != 0 || page.startsWith("SQLite format 3")) return false;
-  const std::set<char> distinct(page.begin(), page.end());
-  return distinct.size() >= 200;
-}
 
 // Proves the copy at `path`: it opens with the password, has our tables and
 // passes the quick check.
@@ -43,20 +30,21 @@ void Prove(const QString& path, const QString& password) {
       CheckSchema(*db);
     } catch (const StoreError& error) {
       if (error.code != SQLITE_ERROR) throw;  // not a table or column missing
-      throw RestoreError{RestoreFault::kOtherSchema, error.description};
+      throw RestoreError{RestoreFault::kOtherSchema, error.description};  // ours: the table
     }
     const QStringList findings = QuickCheck(*db);
-    if (!findings.isEmpty()) throw RestoreError{RestoreFault::kDamaged, findings.first()};
+    if (!findings.isEmpty()) throw RestoreError{RestoreFault::kDamaged, {}};
   } catch (const StoreError& error) {
     switch (error.code) {
       case SQLITE_NOTADB:
         throw RestoreError{
-            LooksEncrypted(path) ? RestoreFault::kOtherPassword : RestoreFault::kNotAStore,
-            error.description};
+            LooksEncrypted(path) ? RestoreFault::kOtherPassword : RestoreFault::kNotAStore, {}};
       case SQLITE_CORRUPT:
-        throw RestoreError{RestoreFault::kDamaged, error.description};
+        throw RestoreError{RestoreFault::kDamaged, {}};
+      case SQLITE_FULL:  // the copy's log
+        throw RestoreError{RestoreFault::kDiskFull, {}};
       default:
-        throw RestoreError{RestoreFault::kFailed, error.description};
+        throw RestoreError{RestoreFault::kFailed, error.description, error.code};
     }
   }
 }
@@ -73,19 +61,22 @@ QString KeepOldStore(const QString& store_path, const QString& password, const Q
   try {
     return KeepFileAsBackup(store_path, when);
   } catch (const StoreError& error) {
-    throw RestoreError{RestoreFault::kFailed, error.description};
+    // The copy's own failures, described in our words.
+    throw RestoreError{error.code == SQLITE_FULL ? RestoreFault::kDiskFull : RestoreFault::kFailed,
+                       error.description};
   }
 }
 
 void RemoveWithCompanions(const QString& path) {
   QFile::remove(path);
-  for (const QString& companion : kCompanions) QFile::remove(path + companion);
+  for (const QString& companion : CompanionSuffixes()) QFile::remove(path + companion);
 }
 
 void RemoveCompanions(const QString& path) {
-  for (const QString& companion : kCompanions) {
+  for (const QString& companion : CompanionSuffixes()) {
     if (QFileInfo::exists(path + companion) && !QFile::remove(path + companion)) {
-      throw RestoreError{RestoreFault::kFailed, u"cannot remove "_s + path + companion};
+      throw RestoreError{RestoreFault::kFailed,
+                         store_file_texts::kNotRemoved.arg(path + companion)};
     }
   }
 }
@@ -93,8 +84,12 @@ void RemoveCompanions(const QString& path) {
 // Flushes the copy to the disk before it takes the store's place.
 void Flush(const QString& path) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly) || ::fsync(file.handle()) != 0) {
-    throw RestoreError{RestoreFault::kFailed, u"cannot flush "_s + path};
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw RestoreError{RestoreFault::kFailed, store_file_texts::kNotFlushed.arg(path)};
+  }
+  if (::fsync(file.handle()) != 0) {
+    throw RestoreError{IsDiskFull(errno) ? RestoreFault::kDiskFull : RestoreFault::kFailed,
+                       store_file_texts::kNotFlushed.arg(path)};
   }
 }
 
@@ -107,25 +102,30 @@ QString RestoreStore(const QString& store_path, const QString& file, const QStri
     case StoreLock::Outcome::kHeld:
       break;
     case StoreLock::Outcome::kHeldElsewhere:
-      throw RestoreError{RestoreFault::kHeld, store_path};
+      throw RestoreError{RestoreFault::kHeld, {}};
     case StoreLock::Outcome::kNoWriting:
-      throw RestoreError{RestoreFault::kFailed, u"cannot write beside "_s + store_path};
+      throw RestoreError{RestoreFault::kFailed, store_file_texts::kNoWritingBeside.arg(store_path)};
   }
   const QFileInfo source_info(file);
-  if (!source_info.isFile()) throw RestoreError{RestoreFault::kUnreadable, file};
+  if (!source_info.isFile()) throw RestoreError{RestoreFault::kUnreadable, {}};
   // SQLite takes an empty file for an empty database.
-  if (source_info.size() == 0) throw RestoreError{RestoreFault::kNotAStore, file};
+  if (source_info.size() == 0) throw RestoreError{RestoreFault::kNotAStore, {}};
 
-  const QString part = store_path + u".restore"_s;
-  RemoveWithCompanions(part);  // a copy left by a restore that broke off
+  RemoveLeftovers(store_path);  // a copy left by a restore that broke off, among others
+  const QString part = RestoreCopyPath(store_path);
   struct Cleanup {
     QString path;
     ~Cleanup() {
       if (!path.isEmpty()) RemoveWithCompanions(path);
     }
   } cleanup{part};
-  QFile source(file);
-  if (!source.copy(part)) throw RestoreError{RestoreFault::kUnreadable, source.errorString()};
+  // The reading of the file and the writing of the copy fail for different
+  // reasons, told apart: a full disk above all.
+  if (const std::optional<CopyFailure> failure = CopyFileBytes(file, part)) {
+    if (failure->reading) throw RestoreError{RestoreFault::kUnreadable, {}};
+    if (IsDiskFull(failure->error)) throw RestoreError{RestoreFault::kDiskFull, {}};
+    throw RestoreError{RestoreFault::kFailed, store_file_texts::kNotWritten.arg(part)};
+  }
   // The store keeps the permissions the old one had; its owner writes it.
   const QFileInfo old(store_path);
   QFile::setPermissions(
@@ -138,7 +138,7 @@ QString RestoreStore(const QString& store_path, const QString& file, const QStri
   Flush(part);
   if (std::rename(QFile::encodeName(part).constData(), QFile::encodeName(store_path).constData()) !=
       0) {
-    throw RestoreError{RestoreFault::kFailed, u"cannot rename "_s + part + u" to "_s + store_path};
+    throw RestoreError{RestoreFault::kFailed, store_file_texts::kNotRenamed.arg(part, store_path)};
   }
   cleanup.path.clear();
   return kept;

@@ -14,12 +14,15 @@ enum class RestoreFault {
   kNotAStore,      // no encrypted store at all
   kOtherSchema,    // a store without the tables and columns of ours
   kDamaged,        // the file's quick check found damage
+  kDiskFull,       // the disk is full: the copy or the keeping of the old store failed
   kFailed,         // the copy, the keeping of the old store or the swap failed
 };
 
 struct RestoreError {
   RestoreFault fault;
-  QString detail;  // the file's or SQLite's own words, for the message
+  QString detail;  // what failed, in our words; empty when the fault says it all
+  int code = 0;    // set when the store's access failed: SQLite's code, and
+                   // detail holds SQLite's words, which are not for the user
 };
 
 // Puts the store file `file` in the place of the store at store_path.

@@ -1,7 +1,11 @@
 #include "store/schema.h"
 
+#include <sqlcipher/sqlite3.h>
+
 #include <QFile>
 #include <array>
+
+#include "store/texts.h"
 
 namespace veroxia {
 
@@ -84,8 +88,18 @@ void CheckSchema(Database& db) {
     const QString probe =
         QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
             .arg(shape.columns.join(QStringLiteral(", ")), QString::fromLatin1(shape.name));
-    db.Prepare(probe.toUtf8());
+    try {
+      db.Prepare(probe.toUtf8());
+    } catch (const StoreError& error) {
+      if (error.code != SQLITE_ERROR) throw;
+      throw StoreError{SQLITE_ERROR,
+                       store_file_texts::kTableNotOurs.arg(QString::fromLatin1(shape.name))};
+    }
   }
+}
+
+std::unique_ptr<Database> OpenStoreFile(const QString& path, const QString& password) {
+  return Database::Open(path, password, CheckSchema);
 }
 
 void CreateStore(const QString& path, const QString& password) {

@@ -205,8 +205,14 @@ QStringList ColumnsOf(const char* table);
 QStringList SchemaStatements();
 
 // Proves that the six tables stand with their columns; throws StoreError
-// ("no such table", "no such column") when the file is some other database.
+// (SQLITE_ERROR, naming the table) when the file is some other database.
 void CheckSchema(Database& db);
+
+// Opens the store file at path for reading and writing once its key and its
+// six tables are proven: a file that is no store of ours is never written
+// to and keeps no companion files. Throws StoreError (see Database::Open and
+// CheckSchema).
+std::unique_ptr<Database> OpenStoreFile(const QString& path, const QString& password);
 
 // Makes an empty store at path, keyed with password. Throws StoreError, also
 // when a file of that name exists already.

@@ -2,6 +2,7 @@
 // Where the store lives and how it is keyed.
 
 #include <QString>
+#include <QStringList>
 
 namespace veroxia {
 
@@ -10,5 +11,11 @@ inline QString StoreFileName() { return QStringLiteral("QorDb.mdb"); }
 inline QString StorePath(const QString& app_dir) { return app_dir + u'/' + StoreFileName(); }
 // The key the store is encrypted with.
 inline QString StorePassword() { return QStringLiteral("41kase41"); }
+// What SQLite may keep beside a database file, after its name.
+inline const QStringList& CompanionSuffixes() {
+  static const QStringList suffixes{QStringLiteral("-wal"), QStringLiteral("-shm"),
+                                    QStringLiteral("-journal")};
+  return suffixes;
+}
 
 }  // namespace veroxia

@@ -4,9 +4,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <optional>
 
+#include "cli/texts.h"
 #include "filing/texts.h"
 #include "filing/totals.h"
 #include "filing/volume_check.h"
@@ -15,10 +17,12 @@
 #include "shell/texts.h"
 #include "store/backups.h"
 #include "store/store_lock.h"
+#include "store/texts.h"
 #include "support/fakes.h"
 #include "support/files.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
+#include "support/store_rows.h"
 
 namespace veroxia {
 namespace {
@@ -45,6 +49,8 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       "(3, 2, '1', '0', '0', '25', '10,25', '0,5')");
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   const QString backup = MakeBackup(db, path, StorePassword(), QDateTime(QDate(2001, 2, 3), {}));
+  const QString leftover = backup + u".part"_s;  // of a backup that was killed
+  ASSERT_TRUE(testing::WriteFile(leftover, "x"));
   store.vars.StoreConnection.reset();
   ASSERT_TRUE(QDir().mkdir(out));
   const QString broken = store.Dir() + u"/broken"_s;  // a volume of one record cut short
@@ -76,38 +82,39 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out + u"/none"_s}, 1, {}, kWriteFailed},
       {{u"--store"_s, path + u"x"_s, u"list"_s}, 1, {}, texts::kStoreCritical + u'\n'},
+      {{u"--store"_s, no_store, u"list"_s}, 1, {}, store_texts::kNotOurStore.arg(no_store) + u'\n'},
       {{u"--store"_s, path + u"x"_s, u"verify"_s, out}, 0, u"ΤΟΜΟΣ\t"_s, {}},
       {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"common"_s, u"3"_s}, 0, u"ΤΟΜΟΣ\t"_s, {}},
       {{u"--store"_s, path, u"verify"_s, broken}, 1, u"ΤΟΜΟΣ\t"_s, kVolumesBroken + u'\n'},
       {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"construction"_s, u"4"_s}, 1, u"ΤΟΜΟΣ\t"_s, kVolumesBroken + u'\n'},
-      {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"common"_s, u"1"_s}, 2, {}, usage + u"no declaration 1 of that kind\n"_s},
+      {{u"--store"_s, path, u"verify"_s, out, u"--against"_s, u"common"_s, u"1"_s}, 2, {}, usage + cli_texts::kNoDeclaration.arg(1) + u'\n'},
       {{u"--store"_s, path + u"x"_s, u"verify"_s, out, u"--against"_s, u"common"_s, u"3"_s}, 2, {}, texts::kStoreCritical},
-      {{u"verify"_s, out + u"/none"_s}, 2, {}, usage + u"no such directory: "_s + out + u"/none\n"_s},
-      {{u"verify"_s, out, u"--against"_s, u"common"_s}, 2, {}, usage + u"verify needs a directory, and --against with a kind and an id\n"_s},
+      {{u"verify"_s, out + u"/none"_s}, 2, {}, usage + cli_texts::kNoDirectory.arg(out + u"/none"_s) + u'\n'},
+      {{u"verify"_s, out, u"--against"_s, u"common"_s}, 2, {}, usage + cli_texts::kVerifyNeeds + u'\n'},
       {{u"--store"_s, path, u"check"_s, u"construction"_s, u"4"_s}, 1, u"ΣΤΟΙΧΕΙΟ\t"_s, kTotalsDisagree + u'\n'},
       {{u"--store"_s, path, u"check"_s, u"common"_s, u"3"_s}, 0, u"ΣΤΟΙΧΕΙΟ\t"_s, {}},
-      {{u"--store"_s, path, u"check"_s, u"common"_s, u"1"_s}, 2, {}, usage + u"no declaration 1 of that kind\n"_s},
+      {{u"--store"_s, path, u"check"_s, u"common"_s, u"1"_s}, 2, {}, usage + cli_texts::kNoDeclaration.arg(1) + u'\n'},
       {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kSumTitle + u'\n', {}},
       {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"common"_s, u"3"_s, u"--text"_s}, 0, page1 + printing_texts::kPage1 + u"1"_s + of + u"2\n"_s, {}},
       {{u"--store"_s, path, u"print"_s, u"declaration"_s, u"construction"_s, u"4"_s, u"--text"_s}, 0, page1 + printing_texts::kConPage1 + u"1"_s + of + u"1\n"_s, {}},
       {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"1"_s, u"--text"_s}, 1, {}, printing_texts::kProblem + u'\n'},
-      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"print needs a printout, a kind, an id and --pdf FILE or --text\n"_s},
-      {{u"--store"_s, path, u"print"_s, u"form"_s, u"common"_s, u"3"_s, u"--text"_s}, 2, {}, usage + u"the printout is summary or declaration\n"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + u"the kind is common or construction\n"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + u"the id is a number from 1 to 32767\n"_s},
-      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s}, 2, {}, usage + u"volumes needs a kind, an id and a directory\n"_s},
-      {{u"list"_s, u"--store"_s}, 2, {}, usage + u"--store needs a path\n"_s},
-      {{u"list"_s, u"all"_s}, 2, {}, usage + u"unknown command: list all\n"_s},
-      {{}, 2, {}, u"Usage: veroxia-cli"_s},
-      {{u"--help"_s}, 0, u"Usage: veroxia-cli"_s, {}},
+      {{u"--store"_s, path, u"print"_s, u"summary"_s, u"common"_s, u"3"_s}, 2, {}, usage + cli_texts::kPrintNeeds + u'\n'},
+      {{u"--store"_s, path, u"print"_s, u"form"_s, u"common"_s, u"3"_s, u"--text"_s}, 2, {}, usage + cli_texts::kPrintoutWords + u'\n'},
+      {{u"--store"_s, path, u"volumes"_s, u"other"_s, u"3"_s, out}, 2, {}, usage + cli_texts::kKindWords + u'\n'},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"0"_s, out}, 2, {}, usage + cli_texts::kIdRange + u'\n'},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32768"_s, out}, 2, {}, usage + cli_texts::kIdRange + u'\n'},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s}, 2, {}, usage + cli_texts::kNeedsKindIdAndDirectory.arg(u"volumes"_s) + u'\n'},
+      {{u"list"_s, u"--store"_s}, 2, {}, usage + cli_texts::kStoreNeedsFile + u'\n'},
+      {{u"list"_s, u"all"_s}, 2, {}, usage + cli_texts::kUnknownCommand + u"list all\n"_s},
+      {{}, 2, {}, u"Χρήση: veroxia-cli"_s},
+      {{u"--help"_s}, 0, u"Χρήση: veroxia-cli"_s, {}},
       {{u"--store"_s, path, u"backup"_s}, 0, BackupFolder(path) + u"/QorDb-"_s, {}},
-      {{u"--store"_s, path, u"backup"_s, u"now"_s}, 2, {}, usage + u"backup takes no more words\n"_s},
+      {{u"--store"_s, path, u"backup"_s, u"now"_s}, 2, {}, usage + cli_texts::kNoMoreWords.arg(u"backup"_s) + u'\n'},
       {{u"--store"_s, path + u"x"_s, u"backup"_s}, 1, {}, texts::kStoreCritical + u'\n'},
-      {{u"--store"_s, path, u"restore"_s}, 2, {}, usage + u"restore needs one file\n"_s},
+      {{u"--store"_s, path, u"restore"_s}, 2, {}, usage + cli_texts::kNeedsOneFile.arg(u"restore"_s) + u'\n'},
       {{u"--store"_s, path, u"restore"_s, other_password}, 1, {}, refused(store_texts::kRestoreOtherPassword.arg(other_password))},
       {{u"--store"_s, path, u"restore"_s, no_store}, 1, {}, refused(store_texts::kRestoreNotAStore.arg(no_store))},
-      {{u"--store"_s, path, u"restore"_s, other_schema}, 1, {}, refused(store_texts::kRestoreOtherSchema.arg(other_schema)) + texts::kErrorDescription + u"no such table: QOR_CON_EMPLOYEES\n"_s},
+      {{u"--store"_s, path, u"restore"_s, other_schema}, 1, {}, refused(store_texts::kRestoreOtherSchema.arg(other_schema)) + texts::kErrorDescription + store_file_texts::kTableNotOurs.arg(u"QOR_CON_EMPLOYEES"_s) + u'\n'},
       {{u"--store"_s, path, u"restore"_s, out + u"/none.mdb"_s}, 1, {}, refused(store_texts::kRestoreUnreadable.arg(out + u"/none.mdb"_s))},
       {{u"--store"_s, path, u"restore"_s, backup}, 1, {}, refused(store_texts::kRestoreHeld.arg(path)) + store_texts::kNothingChanged, true},
       {{u"--store"_s, path, u"restore"_s, backup}, 0, store_texts::kRestored.arg(path, backup) + u'\n' + store_texts::kReplacedKept.first(store_texts::kReplacedKept.indexOf(u'%')) + BackupFolder(path) + u"/QorDb-"_s, {}},
@@ -141,6 +148,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
   // The backup made first, the one of the command, and the store replaced.
   EXPECT_EQ(ListBackups(path).size(), 3);
   EXPECT_EQ(ListBackups(path).last(), backup);
+  EXPECT_FALSE(QFileInfo::exists(leftover));
   EXPECT_EQ(testing::FileBytes(path).size(), testing::FileBytes(backup).size());
   EXPECT_EQ(QDir(out).entryList(QDir::Files),
             (QStringList{u"CSL01"_s, u"notes.txt"_s, u"other.mdb"_s, u"schema.mdb"_s}));
@@ -203,6 +211,33 @@ TEST(Cli, PrintoutsAsPdfGiveBackTheirPages) {
       EXPECT_EQ(read.size(), std::string_view(printout) == "summary" ? 1 : 3);
     }
   }
+}
+
+// A restore onto a full disk says that the disk is full, and the store stays
+// as it was, with nothing left beside it. The disk is a small file system of
+// its own, mounted in a namespace of the test's own where the system allows.
+TEST(Cli, RestoreOnAFullDiskSaysSo) {
+  testing::TempStore store, big;
+  testing::AddLines(big.Open(), Kind::Common, 1, 5000);
+  big.vars.StoreConnection.reset();
+  const QString disk = store.Dir() + u"/disk"_s;
+  ASSERT_TRUE(QDir().mkdir(disk));
+  const QString script =
+      u"mount -t tmpfs -o size=256k tmpfs \"$1\" || exit 99\n"
+      "echo mounted; cp \"$2\" \"$1\"/QorDb.mdb || exit 98\n"
+      "\"$3\" --store \"$1\"/QorDb.mdb restore \"$4\"; status=$?\n"
+      "cmp -s \"$2\" \"$1\"/QorDb.mdb && echo unchanged; ls -A \"$1\"; exit $status"_s;
+  QProcess process;
+  process.start(u"unshare"_s, {u"-rm"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, disk, store.Path(),
+                               QStringLiteral(VEROXIA_CLI), big.Path()});
+  ASSERT_TRUE(process.waitForFinished(60'000));
+  const QString out = QString::fromUtf8(process.readAllStandardOutput());
+  if (!out.startsWith(u"mounted\n"_s)) GTEST_SKIP() << "no file system of the test's own here";
+  EXPECT_EQ(out, u"mounted\nunchanged\nQorDb.mdb\n"_s);
+  EXPECT_EQ(process.exitCode(), 1);
+  EXPECT_EQ(
+      QString::fromUtf8(process.readAllStandardError()),
+      store_texts::kRestoreDiskFull.arg(big.Path()) + u'\n' + store_texts::kNothingChanged + u'\n');
 }
 
 }  // namespace

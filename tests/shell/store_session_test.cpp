@@ -18,6 +18,7 @@
 #include "shell/store_texts.h"
 #include "shell/texts.h"
 #include "store/backups.h"
+#include "store/restore.h"
 #include "support/fakes.h"
 #include "support/files.h"
 #include "support/store_rows.h"
@@ -131,7 +132,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
         EXPECT_EQ(error.code, SQLITE_CORRUPT);
       }
     }
-    CloseStore(store.vars);
+    CloseStore(store.vars, dialogs);
     other_program.reset();
     QFile::setPermissions(store.Dir(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QFile::setPermissions(store.Path(), QFile::ReadOwner | QFile::WriteOwner);
@@ -154,6 +155,82 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
       EXPECT_EQ(Lines(made.first()), 3000);
     }
     EXPECT_FALSE(QFileInfo::exists(store.Path() + u".lock"_s));
+  }
+}
+
+// What a backup or a restore broken off by a kill left behind goes at the
+// next start and the next restore, and is never counted among the copies
+// kept; files of other names stay.
+TEST(StoreSession, LeftoversOfABrokenBackupOrRestoreGoAtTheNextStartOrRestore) {
+  const QStringList leftovers{u"backups/QorDb-20240101-100000.mdb.part"_s,
+                              u"backups/QorDb-20240101-100000-2.mdb-wal"_s, u"QorDb.mdb.restore"_s,
+                              u"QorDb.mdb.restore-wal"_s};
+  const QStringList others{u"backups/QorDb-20240101-100000.mdb.part.txt"_s, u"backups/notes.part"_s,
+                           u"QorDb.mdb.restored"_s};
+  const struct {
+    const char* name;
+    std::function<void(testing::TempStore& store, const QString& backup)> next;
+  } nexts[] = {
+      {"Start",
+       [](testing::TempStore& store, const QString&) {
+         testing::FakeDialogs dialogs;
+         EXPECT_TRUE(OpenStore(store.vars, dialogs));
+         EXPECT_TRUE(CloseStore(store.vars, dialogs));
+       }},
+      {"Restore",
+       [](testing::TempStore& store, const QString& backup) {
+         RestoreStore(store.Path(), backup, StorePassword(), QDateTime::currentDateTime());
+       }},
+  };
+  for (const auto& next : nexts) {
+    SCOPED_TRACE(next.name);
+    testing::TempStore store;
+    const QString backup = MakeBackup(store.Open(), store.Path(), StorePassword(),
+                                      QDateTime(QDate(2024, 1, 1), QTime(9, 0)));
+    store.vars.StoreConnection.reset();
+    store.vars.StoreOpen = false;
+    for (const QString& name : leftovers + others) {
+      ASSERT_TRUE(testing::WriteFile(store.Dir() + u'/' + name, "x"));
+    }
+    EXPECT_EQ(ListBackups(store.Path()), QStringList{backup});
+    next.next(store, backup);
+    for (const QString& name : leftovers) {
+      EXPECT_FALSE(QFileInfo::exists(store.Dir() + u'/' + name)) << name.toStdString();
+    }
+    for (const QString& name : others) {
+      EXPECT_TRUE(QFileInfo::exists(store.Dir() + u'/' + name)) << name.toStdString();
+    }
+  }
+}
+
+// Closing writes the log back into the store and empties it. Where that
+// cannot be done (another connection still reads an older state of the
+// store) the user is told, and nothing is lost: the log is applied at the
+// next open.
+TEST(StoreSession, AWriteBackThatFailsAtCloseIsToldAndLosesNothing) {
+  for (const bool reader_holds : {false, true}) {
+    SCOPED_TRACE(reader_holds);
+    testing::TempStore store;
+    testing::FakeDialogs dialogs;
+    ASSERT_TRUE(OpenStore(store.vars, dialogs));
+    testing::AddLines(*store.vars.StoreConnection, Kind::Common, 1, 1);
+    auto reader = Database::OpenReadOnly(store.Path(), StorePassword());
+    Statement& reading = reader->Prepare("SELECT id FROM QOR_EMPLOYEES");
+    ASSERT_TRUE(reading.Next());
+    if (!reader_holds) reading.Reset();
+    testing::AddLines(*store.vars.StoreConnection, Kind::Common, 2, 5);
+
+    EXPECT_EQ(CloseStore(store.vars, dialogs), !reader_holds);
+    if (reader_holds) {
+      ASSERT_EQ(dialogs.messages.size(), 1u);
+      EXPECT_EQ(dialogs.messages[0].text, kWriteBackFailed.arg(store.Path()) + u"\r\n"_s +
+                                              texts::kErrorDescription + texts::kStoreInUse);
+    } else {
+      EXPECT_TRUE(dialogs.messages.empty());
+      EXPECT_EQ(QFileInfo(store.Path() + u"-wal"_s).size(), 0);
+    }
+    reader.reset();
+    EXPECT_EQ(Lines(store.Path()), 6);
   }
 }
 

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <functional>
 
 #include "store/schema.h"
 #include "store/store_file.h"
+#include "store/texts.h"
 
 namespace veroxia {
 namespace {
@@ -27,7 +29,8 @@ void Write(const QString& path, const QByteArray& bytes) {
 }
 
 // Only a writable store with all its tables opens, with its password only;
-// a failed open changes nothing, and no store is made over an existing file.
+// a failed open changes nothing, leaves no companion file, and no store is
+// made over an existing file.
 TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
   const auto store = [](const char* sql) {
     return [=](const QString& path) {
@@ -38,6 +41,13 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
   const auto read_only = [&](const QString& path) {
     store(nullptr)(path);
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup);
+  };
+  // A database of its own that SQLite would switch to its write-ahead log.
+  const auto plain = [](const QString& path) {
+    sqlite3* db = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &db);
+    sqlite3_exec(db, "CREATE TABLE QOR_EMPLOYERS (id INTEGER)", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
   };
   const QString password = StorePassword();
   const struct {
@@ -53,11 +63,15 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
       {"NotAStore", [](const QString& path) { Write(path, QByteArray(8192, 'x')); }, password, SQLITE_NOTADB, {}},
       {"Missing", [](const QString&) {}, password, SQLITE_CANTOPEN, {}},
       {"ReadOnly", read_only, password, SQLITE_READONLY, {}},
+      {"Empty", [](const QString& path) { Write(path, {}); }, password, SQLITE_NOTADB, {}},
+      {"PlainSqlite", plain, password, SQLITE_NOTADB, {}},
+      {"OursWithoutTables", store("PRAGMA journal_mode = DELETE; DROP TABLE QOR_EMPLOYEES"), password,
+       SQLITE_ERROR, store_file_texts::kTableNotOurs.arg(u"QOR_EMPLOYEES"_s)},
       {"TableMissing", store("DROP TABLE QOR_CON_TEMP_EMPLOYEES"), password, SQLITE_ERROR,
-       u"no such table: QOR_CON_TEMP_EMPLOYEES"_s},
+       store_file_texts::kTableNotOurs.arg(u"QOR_CON_TEMP_EMPLOYEES"_s)},
       {"ColumnMissing", store("DROP TABLE QOR_CON_TEMP_EMPLOYEES; "
                               "CREATE TABLE QOR_CON_TEMP_EMPLOYEES (id INTEGER, row_num INTEGER)"),
-       password, SQLITE_ERROR, u"no such column: "_s},
+       password, SQLITE_ERROR, store_file_texts::kTableNotOurs.arg(u"QOR_CON_TEMP_EMPLOYEES"_s)},
       // clang-format on
   };
   for (const auto& c : cases) {
@@ -68,7 +82,7 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
     const QByteArray before = Bytes(path);
     int code = SQLITE_OK;
     try {
-      CheckSchema(*Database::Open(path, c.password));
+      OpenStoreFile(path, c.password);
     } catch (const StoreError& error) {
       code = error.code;
       const QString description =
@@ -80,6 +94,8 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
       EXPECT_THROW(CreateStore(path, StorePassword()), StoreError);
     }
     EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files),
+              QFile::exists(path) ? QStringList{StoreFileName()} : QStringList{});
   }
 }
 
