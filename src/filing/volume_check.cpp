@@ -4,11 +4,13 @@
 #include <QFile>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <map>
 
 #include "filing/texts.h"
+#include "filing/volume_files.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
 #include "shell/errors.h"
@@ -122,8 +124,8 @@ int EstimatedVolumes(const VolumeLayout& layout, int lines) {
 
 // Hands each record of the file to `take` as it is read: its bytes before
 // the LF (of a record longer than kLongest the first kLongest and the last
-// piece's), its full length, and whether an LF ends it. Answers the system's
-// words when the file cannot be read.
+// piece's), its full length, and whether an LF ends it. Answers why, in our
+// words, when the file cannot be read.
 template <class Take>
 std::optional<QString> ReadRecords(QFile& file, qint64& size, Take&& take) {
   QByteArray buffer(kLongest + kPiece, Qt::Uninitialized);
@@ -132,7 +134,7 @@ std::optional<QString> ReadRecords(QFile& file, qint64& size, Take&& take) {
   size = 0;
   for (;;) {
     const qint64 got = file.read(buffer.data() + kept, kPiece);
-    if (got < 0) return file.errorString();
+    if (got < 0) return FileErrorDescription(errno);
     if (got == 0) break;
     size += got;
     const char* start = buffer.constData();
@@ -220,8 +222,9 @@ void Checker::Volume(const QString& path, VolumeSummary& summary) {
 
   QFile file(path);
   std::optional<QString> error;
+  errno = 0;
   if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-    error = file.errorString();
+    error = FileErrorDescription(errno != 0 ? errno : static_cast<int>(file.error()));
   } else {
     error = ReadRecords(
         file, summary.bytes,

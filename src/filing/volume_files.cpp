@@ -13,7 +13,7 @@ constexpr qsizetype kPiece = 1 << 16;
 
 }  // namespace
 
-QString FileErrorDescription(int code, const QString& system_text) {
+QString FileErrorDescription(int code) {
   switch (code) {
     case ENOSPC:
     case EDQUOT:
@@ -25,8 +25,10 @@ QString FileErrorDescription(int code, const QString& system_text) {
     case ENOENT:
     case ENOTDIR:
       return filing_texts::kDirectoryMissing;
-    default:
-      return system_text;
+    case EIO:
+      return texts::kStoreIoError;
+    default:  // the system's own text is English
+      return texts::kFileOtherError.arg(code);
   }
 }
 
@@ -88,7 +90,7 @@ void VolumeFiles::Abandon(bool keep_completed) {
 
 void VolumeFiles::Fail(const QFileDevice& file, int saved_errno) const {
   const int code = saved_errno != 0 ? saved_errno : static_cast<int>(file.error());
-  throw FileError{code, FileErrorDescription(code, file.errorString())};
+  throw FileError{code, FileErrorDescription(code)};
 }
 
 }  // namespace veroxia

@@ -35,9 +35,10 @@ class VolumeFiles : public VolumeSink {
   QByteArray pending_;  // written in large pieces
 };
 
-// What a file error number means to the user: our words for the errors a user
-// can meet (no room, no permission, no such directory), the system's for any
-// other.
-QString FileErrorDescription(int code, const QString& system_text);
+// What a file error number means to the user, in our words: for the errors a
+// user can meet (no room, no permission, no such directory, disk I/O), and a
+// general one with the number for any other. The system's own text is not
+// shown: it is English.
+QString FileErrorDescription(int code);
 
 }  // namespace veroxia

@@ -363,7 +363,7 @@ int ExportLines(Database& db, Kind kind, int id, const QString& path) {
   QSaveFile file(path);
   const auto fail = [&] {
     const int code = errno != 0 ? errno : static_cast<int>(file.error());
-    throw FileError{code, FileErrorDescription(code, file.errorString())};
+    throw FileError{code, FileErrorDescription(code)};
   };
   errno = 0;
   if (!file.open(QIODevice::WriteOnly)) fail();

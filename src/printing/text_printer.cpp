@@ -1,7 +1,8 @@
 #include "printing/text_printer.h"
 
 #include <cerrno>
-#include <cstring>
+
+#include "filing/volume_files.h"
 
 namespace veroxia {
 
@@ -14,14 +15,13 @@ void TextPrinter::Print(const QString& text) {
 void TextPrinter::NewPage() { Write("\f"); }
 
 void TextPrinter::EndDoc() {
-  if (std::fflush(out_) != 0)
-    throw PrinterError{errno, QString::fromLocal8Bit(std::strerror(errno))};
+  if (std::fflush(out_) != 0) throw PrinterError{errno, FileErrorDescription(errno)};
 }
 
 void TextPrinter::Write(const QByteArray& bytes) {
   const size_t size = static_cast<size_t>(bytes.size());
   if (std::fwrite(bytes.constData(), 1, size, out_) != size) {
-    throw PrinterError{errno, QString::fromLocal8Bit(std::strerror(errno))};
+    throw PrinterError{errno, FileErrorDescription(errno)};
   }
 }
 

@@ -14,6 +14,7 @@ QString ErrorDescription(const StoreError& error) {
       return texts::kStoreReadOnly;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL:
       return texts::kStoreInUse;
     case SQLITE_FULL:
       return texts::kStoreDiskFull;
@@ -23,8 +24,19 @@ QString ErrorDescription(const StoreError& error) {
       return texts::kStoreCannotOpen;
     case SQLITE_IOERR:
       return texts::kStoreIoError;
-    default:
-      return error.description;
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+      return texts::kStoreNoPermission;
+    case SQLITE_NOMEM:
+      return texts::kStoreNoMemory;
+    case SQLITE_INTERRUPT:
+      return texts::kStoreInterrupted;
+    case SQLITE_CONSTRAINT:
+      return texts::kStoreRefused;
+    case SQLITE_TOOBIG:
+      return texts::kStoreTooBig;
+    default:  // SQLite's own words are English
+      return error.sqlite_words ? texts::kStoreOtherError.arg(error.code) : error.description;
   }
 }
 

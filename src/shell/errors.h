@@ -8,9 +8,11 @@
 
 namespace veroxia {
 
-// What the error means to the user: our words for the errors a user can meet
-// (wrong password or not a store, read-only, in use, disk full, damaged,
-// cannot be opened, disk I/O), SQLite's own text for any other.
+// What the error means to the user, in our words: for the errors a user can
+// meet (wrong password or not a store, read-only, in use, disk full, damaged,
+// cannot be opened, disk I/O, ...); for any other the error's own description
+// when it is ours, a general one with the number when it is SQLite's, which
+// is never shown.
 QString ErrorDescription(const StoreError& error);
 
 // first_line, CR LF, "Κωδικός λάθους: " number, CR LF, "Περιγραφή λάθους: "

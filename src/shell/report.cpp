@@ -34,8 +34,7 @@ QString SaveReportText(const Report& report, const QString& path) {
     return {};
   }
   const int code = errno != 0 ? errno : static_cast<int>(file.error());
-  return ErrorMessage(texts::kFileNotWritten.arg(path), code,
-                      FileErrorDescription(code, file.errorString()));
+  return ErrorMessage(texts::kFileNotWritten.arg(path), code, FileErrorDescription(code));
 }
 
 }  // namespace veroxia

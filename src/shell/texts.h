@@ -14,9 +14,11 @@ inline const QString kTitleStart = u"ΒΕΡΟΞΙΑ"_s;
 inline const QString kTitleVersion = u"  (εκδ. "_s;
 
 inline const QString kCommand1 = u"Βεροξία  Κοινών Επιχειρήσεων "_s;
-inline const QString kCommand4 = u"Βεροξία Κοινών Επιχειρήσεων   (Με στοιχεία προηγούμενης περιόδου)"_s;
+inline const QString kCommand4 =
+    u"Βεροξία Κοινών Επιχειρήσεων   (Με στοιχεία προηγούμενης περιόδου)"_s;
 inline const QString kCommand2 = u"Βεροξία Οικοδομοτεχνικών Έργων "_s;
-inline const QString kCommand5 = u"Βεροξία Οικοδομοτεχνικών Έργων (Με στοιχεία προηγούμενης περιόδου)"_s;
+inline const QString kCommand5 =
+    u"Βεροξία Οικοδομοτεχνικών Έργων (Με στοιχεία προηγούμενης περιόδου)"_s;
 inline const QString kCommand3 = u"Έξοδος"_s;
 inline const QString kLabel2 = u"Αρχή περιόδου    ΜΜ        ΕΕΕΕ"_s;
 inline const QString kLabel3 = u"Τέλος περιόδου    ΜΜ        ΕΕΕΕ"_s;
@@ -26,31 +28,45 @@ inline const QString kCancelCmd = u"Άκυρο"_s;
 // A file the user asked for (a report, an export) that could not be written.
 inline const QString kFileNotWritten = u"ΠΡΟΣΟΧΗ!! Το αρχείο %1 δεν γράφτηκε."_s;
 
-inline const QString kStartMonthBlank = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να συμπληρωθεί."_s;
-inline const QString kStartMonthLength = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να έχει δύο ψηφία ."_s;
+inline const QString kStartMonthBlank =
+    u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να συμπληρωθεί."_s;
+inline const QString kStartMonthLength =
+    u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου πρέπει να έχει δύο ψηφία ."_s;
 inline const QString kStartMonthWrong = u"ΠΡΟΣΟΧΗ!! Ο μήνας αρχής περιόδου δεν είναι σωστός."_s;
 inline const QString kStartYearBlank = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να συμπληρωθεί."_s;
-inline const QString kStartYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός."_s;
-inline const QString kStartYearLength = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+inline const QString kStartYearNumeric =
+    u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός."_s;
+inline const QString kStartYearLength =
+    u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
 inline const QString kEndMonthBlank = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου πρέπει να συμπληρωθεί"_s;
-inline const QString kEndMonthLength = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου πρέπει να έχει δύο ψηφία ."_s;
+inline const QString kEndMonthLength =
+    u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου πρέπει να έχει δύο ψηφία ."_s;
 inline const QString kEndMonthWrong = u"ΠΡΟΣΟΧΗ!! Ο μήνας τέλους περιόδου δεν είναι σωστός."_s;
 inline const QString kEndYearBlank = u"ΠΡΟΣΟΧΗ!! Το έτος τέλους περιόδου πρέπει να συμπληρωθεί."_s;
-inline const QString kEndYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι αριθμός."_s;
-inline const QString kEndYearLength = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
-inline const QString kEndYearDiffers = u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι ίδιο με το έτος αρχής περιόδου."_s;
-inline const QString kStartMonthNotQuarter = u"ΠΡΟΣΟΧΗ!! O μήνας αρχής περιόδου δεν είναι σωστός."_s;
+inline const QString kEndYearNumeric =
+    u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι αριθμός."_s;
+inline const QString kEndYearLength =
+    u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+inline const QString kEndYearDiffers =
+    u"ΠΡΟΣΟΧΗ!! To έτος τέλους περιόδου πρέπει να είναι ίδιο με το έτος αρχής περιόδου."_s;
+inline const QString kStartMonthNotQuarter =
+    u"ΠΡΟΣΟΧΗ!! O μήνας αρχής περιόδου δεν είναι σωστός."_s;
 inline const QString kEndMonthNotQuarter = u"ΠΡΟΣΟΧΗ!! O μήνας τέλους περιόδου δεν είναι σωστός."_s;
 // The construction period reuses the start-month texts above; its year texts
 // differ from the common ones in their last characters.
 inline const QString kConYearBlank = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να συμπληρωθεί"_s;
-inline const QString kConYearNumeric = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός ."_s;
-inline const QString kConYearLength = u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
+inline const QString kConYearNumeric =
+    u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να είναι αριθμός ."_s;
+inline const QString kConYearLength =
+    u"ΠΡΟΣΟΧΗ!! To έτος αρχής περιόδου πρέπει να έχει τέσσερα ψηφία ."_s;
 
-inline const QString kDeclarationFound = u"ΠΡΟΣΟΧΗ!! Βρέθηκε δήλωση για την περίοδο που δηλώσατε."_s;
-inline const QString kNoPreviousDeclaration = u"ΠΡΟΣΟΧΗ!! Δεν βρέθηκε δήλωση προηγούμενης περιόδου."_s;
+inline const QString kDeclarationFound =
+    u"ΠΡΟΣΟΧΗ!! Βρέθηκε δήλωση για την περίοδο που δηλώσατε."_s;
+inline const QString kNoPreviousDeclaration =
+    u"ΠΡΟΣΟΧΗ!! Δεν βρέθηκε δήλωση προηγούμενης περιόδου."_s;
 inline const QString kStoreMissing = u"ΠΡΟΣΟΧΗ!! Το αρχείο 'QorDb.mdb' δεν μπορεί να βρεθεί."_s;
-inline const QString kStoreCritical = u"Παρουσιάστηκε κρίσιμο λάθος εφαρμογής.Το πρόγραμμα θα κλείσει,παρακαλώ ξαναδοκιμάστε!! "_s;
+inline const QString kStoreCritical =
+    u"Παρουσιάστηκε κρίσιμο λάθος εφαρμογής.Το πρόγραμμα θα κλείσει,παρακαλώ ξαναδοκιμάστε!! "_s;
 inline const QString kCarryOverFailed = u"Παρουσιάστηκε πρόβλημα στην μεταφόρα των εγγραφών."_s;
 inline const QString kErrorCode = u"Κωδικός λάθους: "_s;
 inline const QString kErrorDescription = u"Περιγραφή λάθους: "_s;
@@ -76,6 +92,14 @@ inline const QString kStoreDiskFull = u"Δεν υπάρχει ελεύθερος
 inline const QString kStoreDamaged = u"Το αρχείο δηλώσεων είναι κατεστραμμένο."_s;
 inline const QString kStoreCannotOpen = u"Το αρχείο δηλώσεων δεν μπορεί να ανοιχτεί."_s;
 inline const QString kStoreIoError = u"Παρουσιάστηκε πρόβλημα ανάγνωσης ή εγγραφής στο δίσκο."_s;
+inline const QString kStoreNoPermission = u"Δεν επιτρέπεται η πρόσβαση στο αρχείο δηλώσεων."_s;
+inline const QString kStoreNoMemory = u"Δεν υπάρχει αρκετή μνήμη."_s;
+inline const QString kStoreInterrupted = u"Η εργασία διακόπηκε."_s;
+inline const QString kStoreRefused = u"Η εγγραφή δεν έγινε δεκτή από το αρχείο δηλώσεων."_s;
+inline const QString kStoreTooBig = u"Η τιμή είναι πολύ μεγάλη για το αρχείο δηλώσεων."_s;
+// Any other error of the store, and of a file, with its number.
+inline const QString kStoreOtherError = u"Σφάλμα του αρχείου δηλώσεων με αριθμό %1."_s;
+inline const QString kFileOtherError = u"Σφάλμα του συστήματος αρχείων με αριθμό %1."_s;
 // The captions of the Yes and No buttons of a question.
 inline const QString kYes = u"Ναι"_s;
 inline const QString kNo = u"Όχι"_s;

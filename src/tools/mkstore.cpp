@@ -6,28 +6,40 @@
 #include <QFileInfo>
 #include <cstdio>
 
+#include "shell/errors.h"
 #include "store/schema.h"
 #include "store/store_file.h"
+#include "tools/texts.h"
+
+namespace {
+
+void Say(std::FILE* stream, const QString& text) {
+  std::fputs((text + u'\n').toUtf8().constData(), stream);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
+  using namespace veroxia;
+  using namespace Qt::StringLiterals;
   QCoreApplication app(argc, argv);
   const QStringList args = QCoreApplication::arguments();
   if (args.size() != 2) {
-    std::fprintf(stderr, "usage: veroxia-mkstore DIRECTORY\n");
+    Say(stderr, tools_texts::kMkstoreUsage);
     return 2;
   }
-  const QString path = veroxia::StorePath(QDir(args[1]).absolutePath());
+  const QString path = StorePath(QDir(args[1]).absolutePath());
   if (QFileInfo::exists(path)) {
-    std::printf("%s exists already; left as it is\n", qPrintable(path));
+    Say(stdout, tools_texts::kExists.arg(path));
     return 0;
   }
   try {
-    veroxia::CreateStore(path, veroxia::StorePassword());
-  } catch (const veroxia::StoreError& error) {
-    std::fprintf(stderr, "cannot create %s: %d %s\n", qPrintable(path), error.code,
-                 qPrintable(error.description));
+    CreateStore(path, StorePassword());
+  } catch (const StoreError& error) {
+    Say(stderr,
+        ErrorMessage(tools_texts::kNotCreated.arg(path), error).replace(u"\r\n"_s, u"\n"_s));
     return 1;
   }
-  std::printf("created an empty store at %s\n", qPrintable(path));
+  Say(stdout, tools_texts::kCreated.arg(path));
   return 0;
 }

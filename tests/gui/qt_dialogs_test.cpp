@@ -28,23 +28,25 @@ TEST(QtDialogsTest, LineBreaksAreShownAsLineBreaks) {
   }
 }
 
-// The store errors a user can meet are told in Greek, any other in SQLite's
-// words; the number stays.
+// The store errors a user can meet are told in Greek, any other by its
+// number unless its words are ours; SQLite's English never shows.
 TEST(StoreErrorTexts, TheErrorsAUserMeetsAreToldInGreek) {
   // clang-format off
   const std::pair<int, const QString*> cases[] = {
       {26, &texts::kStoreNotADatabase}, {8, &texts::kStoreReadOnly}, {5, &texts::kStoreInUse},
       {6, &texts::kStoreInUse}, {13, &texts::kStoreDiskFull}, {11, &texts::kStoreDamaged},
       {14, &texts::kStoreCannotOpen}, {10, &texts::kStoreIoError}, {266, &texts::kStoreIoError},
-      {19, nullptr}, {1, nullptr}};
+      {19, &texts::kStoreRefused}, {3, &texts::kStoreNoPermission}, {1, nullptr}};
   // clang-format on
   const QString sqlite = u"what SQLite says"_s;
   for (const auto& [code, greek] : cases) {
-    EXPECT_EQ(ErrorMessage(u"L"_s, StoreError{code, sqlite}),
+    EXPECT_EQ(ErrorMessage(u"L"_s, StoreError{code, sqlite, true}),
               u"L\r\n"_s + texts::kErrorCode + QString::number(code) + u"\r\n"_s +
-                  texts::kErrorDescription + (greek != nullptr ? *greek : sqlite))
+                  texts::kErrorDescription +
+                  (greek != nullptr ? *greek : texts::kStoreOtherError.arg(code)))
         << code;
   }
+  EXPECT_EQ(ErrorDescription(StoreError{1, u"ours"_s}), u"ours"_s);
 }
 
 TEST(QtDialogsTest, TheHourglassIsOnOrOffNeverStacked) {

@@ -65,7 +65,7 @@ class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface
   QTemporaryDir medium_;  // holds no volume
 };
 
-const QString kNoTable = u"no such table: QOR_EMPLOYERS"_s;
+const QString kNoTable = texts::kStoreOtherError.arg(1);
 const QStringList kSaved{kSaveTitle, kSaveDone};
 const QStringList kRefused{texts::kAppTitle, kNoTable};  // a store error: its own text alone
 // The first line, then the store's error number and text.

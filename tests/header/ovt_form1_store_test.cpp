@@ -162,7 +162,7 @@ TEST_F(OvtForm1Store, TakenOverHeaderIsStoredUncheckedWithTheLinesUnderTheNewId)
   db_.Exec(
       "CREATE TRIGGER refuse BEFORE INSERT ON QOR_EMPLOYERS BEGIN SELECT RAISE(ABORT, 'x'); END");
   form.SaveCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), u"x"_s);
+  EXPECT_EQ(dialogs_.LastMessage(), texts::kStoreRefused);
   EXPECT_TRUE(vars_.CarryOver && form.IsNewHeader());
   EXPECT_FALSE(Stored().has_value());
   db_.Exec("DROP TRIGGER refuse");

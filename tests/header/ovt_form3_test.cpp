@@ -127,7 +127,7 @@ TEST_F(OvtForm3Test, FirstSaveAndCorrectionStoreEachColumnTheirWay) {
       "CREATE TRIGGER refuse BEFORE UPDATE ON QOR_CON_EMPLOYERS BEGIN SELECT RAISE(ABORT, "
       "'no'); END");
   form.SaveData();
-  EXPECT_EQ(dialogs_.LastMessage(), ErrorMessage(kConSaveErrorFirstLine, 19, u"no"_s));
+  EXPECT_EQ(dialogs_.LastMessage(), ErrorMessage(kConSaveErrorFirstLine, 19, texts::kStoreRefused));
   EXPECT_FALSE(form.At(u"UpDateCmd"_s).visible);  // still correcting
 }
 

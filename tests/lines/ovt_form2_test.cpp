@@ -232,7 +232,7 @@ TEST_F(OvtForm2Test, DeletesThatFailAndTheLastDelete) {
   dialogs_.answers = {true};
   form_->DeleteCmd_Click();
   EXPECT_TRUE(dialogs_.LastMessage().startsWith(kStoreProblem + u"\r\n"_s + texts::kErrorCode));
-  EXPECT_TRUE(dialogs_.LastMessage().endsWith(u"disk full"_s));
+  EXPECT_TRUE(dialogs_.LastMessage().endsWith(texts::kStoreRefused));
   EXPECT_EQ(Stored(), before);
   EXPECT_FALSE(db_.InTransaction());
 

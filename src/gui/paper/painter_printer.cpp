@@ -1,8 +1,5 @@
 #include "gui/paper/painter_printer.h"
 
-#include <locale.h>
-#include <string.h>
-
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>
 #include <cerrno>
@@ -36,10 +33,7 @@ qsizetype FittingLength(const QString& line, qsizetype from, const QFontMetricsF
 
 }  // namespace
 
-PrinterError SystemPrinterError(int code) {
-  static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", locale_t{});
-  return {code, FileErrorDescription(code, QString::fromLocal8Bit(strerror_l(code, c_locale)))};
-}
+PrinterError SystemPrinterError(int code) { return {code, FileErrorDescription(code)}; }
 
 PainterPrinter::PainterPrinter(QPagedPaintDevice& device, std::function<void()> abort)
     : device_(device), abort_(std::move(abort)) {

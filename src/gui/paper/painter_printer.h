@@ -34,8 +34,7 @@ namespace veroxia {
 inline constexpr char16_t kPrintoutFamily[] = u"Liberation Mono";
 
 // The failure of a system call that set errno to `code`: its number and what
-// it means, in our words for the errors a user can meet (no room, no
-// permission, no such directory), else the system's in the C locale.
+// it means, in our words (FileErrorDescription).
 PrinterError SystemPrinterError(int code);
 
 class PainterPrinter : public Printer {

@@ -18,6 +18,7 @@
 #include <tuple>
 
 #include "filing/texts.h"
+#include "shell/texts.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
 
@@ -118,7 +119,7 @@ TEST(PdfPrinterTest, AbandonedJobLeavesNothing) {
   EXPECT_EQ(earlier.readAll(), "earlier");
 }
 
-// Each with the system's words, whatever the machine's language.
+// Each in our words, the system's being English: a general one with the number.
 TEST(PdfPrinterTest, UnwritablePathFailsWithTheSystemError) {
   QTemporaryDir dir;
   QFile plain(dir.filePath(u"plain"_s));
@@ -126,7 +127,7 @@ TEST(PdfPrinterTest, UnwritablePathFailsWithTheSystemError) {
   const std::tuple<QString, int, QString> cases[] = {
       {u"missing/out.pdf"_s, ENOENT, filing_texts::kDirectoryMissing},
       {u"plain/out.pdf"_s, ENOTDIR, filing_texts::kDirectoryMissing},
-      {u"."_s, EISDIR, u"Is a directory"_s},
+      {u"."_s, EISDIR, texts::kFileOtherError.arg(EISDIR)},
   };
   for (const auto& [path, code, description] : cases) {
     PdfPrinter printer(dir.filePath(path));
