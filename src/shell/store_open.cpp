@@ -83,6 +83,8 @@ bool OpenStoreAt(Vars& vars, Dialogs& dialogs, const QString& path,
       return refuse(store_texts::kHeld.arg(path));
     case StoreLock::Outcome::kNoWriting:
       return refuse(store_texts::kFolderReadOnly.arg(QFileInfo(path).absolutePath()));
+    case StoreLock::Outcome::kNoRoom:
+      return refuse(store_texts::kNoRoom.arg(QFileInfo(path).absolutePath()));
   }
   RemoveLeftovers(path);
   std::unique_ptr<Database> db;

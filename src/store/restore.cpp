@@ -105,6 +105,8 @@ QString RestoreStore(const QString& store_path, const QString& file, const QStri
       throw RestoreError{RestoreFault::kHeld, {}};
     case StoreLock::Outcome::kNoWriting:
       throw RestoreError{RestoreFault::kFailed, store_file_texts::kNoWritingBeside.arg(store_path)};
+    case StoreLock::Outcome::kNoRoom:
+      throw RestoreError{RestoreFault::kDiskFull, {}};
   }
   const QFileInfo source_info(file);
   if (!source_info.isFile()) throw RestoreError{RestoreFault::kUnreadable, {}};

@@ -1,5 +1,8 @@
 #include "store/store_lock.h"
 
+#include <QFileInfo>
+#include <QStorageInfo>
+
 namespace veroxia {
 
 StoreLock::StoreLock(const QString& store_path) : lock_(store_path + QStringLiteral(".lock")) {
@@ -10,8 +13,9 @@ StoreLock::StoreLock(const QString& store_path) : lock_(store_path + QStringLite
 
 StoreLock::Outcome StoreLock::Take() {
   if (lock_.isLocked() || lock_.tryLock(0)) return Outcome::kHeld;
-  return lock_.error() == QLockFile::LockFailedError ? Outcome::kHeldElsewhere
-                                                     : Outcome::kNoWriting;
+  if (lock_.error() == QLockFile::LockFailedError) return Outcome::kHeldElsewhere;
+  const QStorageInfo disk(QFileInfo(lock_.fileName()).absolutePath());
+  return disk.isValid() && disk.bytesAvailable() <= 0 ? Outcome::kNoRoom : Outcome::kNoWriting;
 }
 
 }  // namespace veroxia

@@ -12,12 +12,13 @@ namespace veroxia {
 
 class StoreLock {
  public:
-  enum class Outcome { kHeld, kHeldElsewhere, kNoWriting };
+  enum class Outcome { kHeld, kHeldElsewhere, kNoWriting, kNoRoom };
 
   explicit StoreLock(const QString& store_path);
   // Takes the lock unless another process holds it: kHeld when taken (or
-  // held already), kHeldElsewhere when another process has it, kNoWriting
-  // when no lock file can be made beside the store.
+  // held already), kHeldElsewhere when another process has it, kNoRoom
+  // when no lock file can be made beside the store for a full disk,
+  // kNoWriting when it cannot for any other reason.
   Outcome Take();
 
  private:

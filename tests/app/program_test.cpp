@@ -119,6 +119,7 @@ TEST(Program, EndsWithOneOnAStoreItCannotUseAndLeavesItAlone) {
     const QFileInfo after(store);
     EXPECT_EQ(after.isDir(), before.isDir());
     EXPECT_EQ(after.permissions(), before.permissions());
+    EXPECT_EQ(after.lastModified(), before.lastModified());
     EXPECT_EQ(testing::FileBytes(store), bytes);
     other_program.reset();
   }

@@ -214,30 +214,37 @@ TEST(Cli, PrintoutsAsPdfGiveBackTheirPages) {
 }
 
 // A restore onto a full disk says that the disk is full, and the store stays
-// as it was, with nothing left beside it. The disk is a small file system of
-// its own, mounted in a namespace of the test's own where the system allows.
+// as it was, with nothing left beside it: whether the copy does not fit or
+// the disk is full already (no lock file either). The disk is a small file
+// system of its own, mounted in a namespace of the test's own where the
+// system allows.
 TEST(Cli, RestoreOnAFullDiskSaysSo) {
   testing::TempStore store, big;
   testing::AddLines(big.Open(), Kind::Common, 1, 5000);
   big.vars.StoreConnection.reset();
-  const QString disk = store.Dir() + u"/disk"_s;
-  ASSERT_TRUE(QDir().mkdir(disk));
   const QString script =
       u"mount -t tmpfs -o size=256k tmpfs \"$1\" || exit 99\n"
       "echo mounted; cp \"$2\" \"$1\"/QorDb.mdb || exit 98\n"
+      "[ -z \"$5\" ] || dd if=/dev/zero of=\"$1\"/$5 bs=4k 2>/dev/null\n"
       "\"$3\" --store \"$1\"/QorDb.mdb restore \"$4\"; status=$?\n"
       "cmp -s \"$2\" \"$1\"/QorDb.mdb && echo unchanged; ls -A \"$1\"; exit $status"_s;
-  QProcess process;
-  process.start(u"unshare"_s, {u"-rm"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, disk, store.Path(),
-                               QStringLiteral(VEROXIA_CLI), big.Path()});
-  ASSERT_TRUE(process.waitForFinished(60'000));
-  const QString out = QString::fromUtf8(process.readAllStandardOutput());
-  if (!out.startsWith(u"mounted\n"_s)) GTEST_SKIP() << "no file system of the test's own here";
-  EXPECT_EQ(out, u"mounted\nunchanged\nQorDb.mdb\n"_s);
-  EXPECT_EQ(process.exitCode(), 1);
-  EXPECT_EQ(
-      QString::fromUtf8(process.readAllStandardError()),
-      store_texts::kRestoreDiskFull.arg(big.Path()) + u'\n' + store_texts::kNothingChanged + u'\n');
+  for (const QString& filler : {QString(), u"filler"_s}) {
+    SCOPED_TRACE(filler.toStdString());
+    const QString disk = store.Dir() + u"/disk"_s + filler;
+    ASSERT_TRUE(QDir().mkdir(disk));
+    QProcess process;
+    process.start(u"unshare"_s, {u"-rm"_s, u"sh"_s, u"-c"_s, script, u"sh"_s, disk, store.Path(),
+                                 QStringLiteral(VEROXIA_CLI), big.Path(), filler});
+    ASSERT_TRUE(process.waitForFinished(60'000));
+    const QString out = QString::fromUtf8(process.readAllStandardOutput());
+    if (!out.startsWith(u"mounted\n"_s)) GTEST_SKIP() << "no file system of the test's own here";
+    EXPECT_EQ(out,
+              u"mounted\nunchanged\nQorDb.mdb\n"_s + (filler.isEmpty() ? u""_s : filler + u'\n'));
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_EQ(QString::fromUtf8(process.readAllStandardError()),
+              store_texts::kRestoreDiskFull.arg(big.Path()) + u'\n' + store_texts::kNothingChanged +
+                  u'\n');
+  }
 }
 
 }  // namespace
