@@ -32,6 +32,8 @@ inline const QString kColumnsHelp = u"Κάθε στήλη ονομάζεται �
 
 // What is wrong with one record.
 inline const QString kUnclosedQuote = u"Τα εισαγωγικά που ανοίγουν εδώ δεν κλείνουν."_s;
+inline const QString kRecordTooLong = u"Η γραμμή ξεπερνά το 1 MiB χωρίς να τελειώσει: δεν είναι γραμμή λογιστικού φύλλου και το αρχείο δεν διαβάζεται από εδώ και πέρα. Αν εδώ ανοίγουν εισαγωγικά, ελέγξτε ότι κλείνουν."_s;
+inline const QString kBomInField = u"Η τιμή έχει τον αόρατο χαρακτήρα U+FEFF (σημάδι BOM), που ανήκει μόνο στην αρχή του αρχείου και μένει συνήθως όταν ενώνονται αρχεία. Σβήστε τον."_s;
 inline const QString kTextAfterQuote = u"Μετά τα εισαγωγικά που κλείνουν ακολουθεί κείμενο πριν από το διαχωριστικό."_s;
 inline const QString kBadBytes = u"Μη έγκυρα bytes για %1: %2."_s;
 inline const QString kFieldCount = u"Η γραμμή έχει %1 πεδία, ενώ οι στήλες είναι %2."_s;

@@ -45,6 +45,10 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
       {"a;b\n\xCE\x91\xCE\xBB\xCE\xB1;\xC0\xAF\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {u"Αλα"_s, QString::fromUtf8("\xC0\xAF")}}, {1, 2}, kBadBytes.arg(u"UTF-8"_s, u"C0 AF"_s), 1},
       {"a;b\n1;\"2\n3;4\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2\n3;4\n"}}, {1, 2}, kUnclosedQuote, 1},
       {"a;b\n\"1\"x;2\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1x", "2"}}, {1, 2}, kTextAfterQuote, 0},
+      // A byte-order mark where two files were joined; a line with no end.
+      {"a;b\n\xEF\xBB\xBF" "1;2\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2"}}, {1, 2}, kBomInField, 0},
+      {"a;b\n1;2\xEF\xBB\xBF\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", u"2\uFEFF"_s}}, {1, 2}, kBomInField, 1},
+      {"a;b\n" + QByteArray((1 << 20) + 1, 'x'), CsvEncoding::kUtf8, ';', {{"a", "b"}, {}}, {1, 2}, kRecordTooLong, -1},
       // clang-format on
   };
   QTemporaryDir dir;
