@@ -342,4 +342,16 @@ void HeaderForm::ShowSaveError(const StoreError& error) {
   dialogs_.Message(text, texts::kAppTitle);
 }
 
+bool HeaderForm::RunChecks(std::vector<HeaderCheck> checks) {
+  checks.push_back(CodePageCheck(*this, [this] {
+    std::vector<StoredBox> boxes;
+    for (const HeaderField& field : layout_.fields) {
+      const StoreAs how = is_new_header_ ? field.insert_as : field.update_as;
+      boxes.push_back({field.name, StoredText(how, Text(field.name))});
+    }
+    return boxes;
+  }));
+  return RunHeaderChecks(*this, dialogs_, checks);
+}
+
 }  // namespace veroxia

@@ -40,7 +40,6 @@ inline const QString kFieldCount = u"Η γραμμή έχει %1 πεδία, ε�
 inline const QString kTooLong = u"Η τιμή έχει %1 χαρακτήρες, ενώ το πεδίο δέχεται έως %2."_s;
 inline const QString kDateShape = u"Η ημερομηνία γράφεται ΗΗ/ΜΜ/ΕΕΕΕ."_s;
 inline const QString kLineBreak = u"Η τιμή έχει αλλαγή γραμμής."_s;
-inline const QString kNotInCodePage = u"Ο χαρακτήρας '%1' δεν μπορεί να γραφτεί στο αρχείο Ξ.Ρ.Φ. (Windows-1253)."_s;
 
 // The preview.
 inline const QString kPreviewTitle = u"ΠΡΟΕΠΙΣΚΟΠΗΣΗ ΕΙΣΑΓΩΓΗΣ"_s;

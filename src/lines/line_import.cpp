@@ -83,16 +83,6 @@ QString FieldTextOf(const LineField& field, const QString& value, QString& fault
   return text;
 }
 
-// The caption of a field's box as the screen shows it, its runs of blanks
-// made one.
-QString CaptionOf(const LinesLayout& layout, const LineField& field) {
-  QString label = u"Text"_s + BoxOf(field).section(u'_', 0, 0) + u"Lbl"_s;
-  for (const LineCaption& caption : layout.captions) {
-    if (caption.name == label) return caption.text.simplified();
-  }
-  return BoxOf(field);
-}
-
 // A report of the problems of a file: those kept, one a row, and how many
 // more were found.
 Report ProblemReport(const QString& title, const std::vector<ImportFault>& kept, qint64 found,
@@ -183,7 +173,7 @@ Report LineImport::Preview(int rows) {
   report.columns << kPreviewLine;
   for (size_t c = 0; c < field_of_.size(); ++c) {
     const LineField& field = layout.fields[static_cast<size_t>(field_of_[c])];
-    report.columns << names_[static_cast<qsizetype>(c)] + u'\n' + CaptionOf(layout, field);
+    report.columns << names_[static_cast<qsizetype>(c)] + u'\n' + CaptionOf(form_, field.name);
   }
   for (const CsvRecord& row : ahead_) {
     ReportRow shown;
@@ -289,15 +279,7 @@ void LineImport::Take(const CsvRecord& record) {
     }
   }
   warned_rows_ += warned ? 1 : 0;
-  const LineTexts texts = form_.StoredTexts();
-  for (size_t f = 0; f < texts.size(); ++f) {
-    if (!texts[f]) continue;
-    if (const std::optional<QString> bad = FirstUnencodable(*texts[f])) {
-      const int c = column_of_field_[f];
-      return fail(names_[c], record.fields[c], kNotInCodePage.arg(*bad));
-    }
-  }
-  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, texts);
+  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, form_.StoredTexts());
 }
 
 Report LineImport::FaultReport() const {

@@ -306,7 +306,19 @@ void LinesForm::ShowStoreError(const StoreError& error) {
 }
 
 const std::vector<HeaderCheck>& LinesForm::Checks() {
-  if (checks_.empty()) checks_ = LineChecks();
+  if (checks_.empty()) {
+    checks_ = LineChecks();
+    // Last, what every field stores must fit the submission file.
+    checks_.push_back(CodePageCheck(*this, [this] {
+      const LineTexts texts = StoredTexts();
+      std::vector<StoredBox> boxes;
+      boxes.reserve(texts.size());
+      for (size_t f = 0; f < texts.size(); ++f) {
+        boxes.push_back({layout_.fields[f].name, texts[f].value_or(QString())});
+      }
+      return boxes;
+    }));
+  }
   return checks_;
 }
 

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "header/texts.h"
 #include "lines/import_texts.h"
 #include "lines/line_import.h"
 #include "lines/line_kinds.h"
@@ -157,7 +158,9 @@ TEST_F(LineImportTest, AllRowsOrNoneAndEveryFailingRowReported) {
       {With(good, u"Text21"_s, QString(51, u'Α')),
        {4, u"surname"_s, QString(51, u'Α'), kTooLong.arg(51).arg(50)}},
       {With(good, u"Text25"_s, u"5/3/1970"_s), {5, u"birth_date"_s, u"5/3/1970"_s, kDateShape}},
-      {With(good, u"Text22"_s, u"Жора"_s), {6, u"name"_s, u"Жора"_s, kNotInCodePage.arg(u"Ж"_s)}},
+      {With(good, u"Text22"_s, u"Жора"_s),
+       {6, u"name"_s, u"Жора"_s,
+        header_texts::kNotInCodePage.arg(lines_texts::kLbl22, u"Ж"_s, u"0416"_s)}},
       {few, {7, {}, {}, kFieldCount.arg(30).arg(31)}},
       {With(good, u"Text39"_s, u"12.345,6"_s), {}},  // thousands parted by dots
   };
