@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -12,6 +13,7 @@
 #include <ostream>
 
 #include "gui/driver.h"
+#include "gui/form_binder.h"
 #include "gui/lines_view.h"
 #include "gui/search_view.h"
 #include "lines/import_texts.h"
@@ -99,6 +101,27 @@ TEST_P(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
   view->close();  // answered No: the window stays
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_TRUE(view->isVisible());
+}
+
+// Clear puts the focus on the first box, where the user sees it; in browse
+// mode the number of a line and Enter show that line and where it stands.
+TEST_P(LinesViewTest, ClearFocusesTheFirstBoxAndEnterGoesToALine) {
+  TypeInto(*view, GetParam().surname, u"Papas"_s);
+  Click(*view, u"ClearCmd"_s);
+  EXPECT_EQ(Focused(*view), form->FirstField());
+  EXPECT_TRUE(Find<QLineEdit>(*view, GetParam().surname)->text().isEmpty());
+
+  store.vars.StoreConnection->Exec(
+      form->Layout().kind == Kind::Common
+          ? "INSERT INTO QOR_EMPLOYEES (id, row_num) VALUES (1, 1), (1, 2)"
+          : "INSERT INTO QOR_CON_EMPLOYEES (id, row_num) VALUES (1, 1), (1, 2)");
+  form->Load();
+  view->Binder().Mirror();
+  TypeInto(*view, u"GotoTxt"_s, u"2"_s);
+  Key(*Find<QLineEdit>(*view, u"GotoTxt"_s), Qt::Key_Return);
+  EXPECT_EQ(Find<QLabel>(*view, u"PositionLbl"_s)->text(),
+            lines_texts::kPosition.arg(u"2"_s, u"2"_s));
+  ExpectNothingCut(*view);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -292,5 +292,56 @@ TEST_F(OvtForm2Test, SeekFindsTheFirstLineInReadingOrder) {
   }
 }
 
+// The screen tells which line it shows among how many, or that a new one is
+// being typed; a line is reached by its number, and a number that is none is
+// told with the box selected. Clear puts the focus on the first field.
+TEST_F(OvtForm2Test, TellsWhereItStandsAndGoesToALineByNumber) {
+  StoreLine(1, u"100000001"_s, u"Α"_s);
+  StoreLine(2, u"100000002"_s, u"Β"_s);
+  StoreLine(3, u"100000003"_s, u"Γ"_s);
+  Open();
+  const auto position = [this] { return form_->Text(u"PositionLbl"_s); };
+  EXPECT_EQ(position(), kPosition.arg(u"1"_s, u"3"_s));
+  db_.Exec("DELETE FROM QOR_EMPLOYEES WHERE row_num = 2");  // gone behind the screen
+  const struct {
+    const char* typed;
+    QString message;  // none: the line is shown
+  } moves[] = {{"3", {}},
+               {"0", kGotoRange.arg(3)},
+               {"4", kGotoRange.arg(3)},
+               {"x", kGotoRange.arg(3)},
+               {"2", kGotoMissing.arg(2)},
+               {" 1 ", {}}};
+  for (const auto& move : moves) {
+    SCOPED_TRACE(move.typed);
+    const QString shown = form_->Text(u"Text19"_s);
+    const size_t told = dialogs_.messages.size();
+    form_->Type(u"GotoTxt"_s, QString::fromLatin1(move.typed));
+    form_->GotoCmd_Click();
+    if (move.message.isEmpty()) {
+      EXPECT_EQ(dialogs_.messages.size(), told);
+      const QString row = QString::fromLatin1(move.typed).trimmed();
+      EXPECT_EQ(form_->Text(u"Text19"_s), u"10000000"_s + row);
+      EXPECT_EQ(position(), kPosition.arg(row, u"3"_s));
+    } else {
+      EXPECT_EQ(dialogs_.LastMessage(), move.message);
+      EXPECT_EQ(form_->Text(u"Text19"_s), shown);
+      EXPECT_EQ(form_->FocusedField(), u"GotoTxt"_s);
+    }
+  }
+  StoreLine(2, u"100000002"_s, u"Β"_s);
+  form_->NewCmd_Click();
+  EXPECT_EQ(position(), kPositionNew.arg(3));
+  EXPECT_FALSE(form_->At(u"GotoCmd"_s).enabled || form_->At(u"GotoTxt"_s).enabled);
+  TypeValidLine();
+  form_->OkCmd_Click();
+  EXPECT_EQ(position(), kPositionNew.arg(4));
+  form_->FocusMovedTo(u"Text39"_s);
+  form_->ClearCmd_Click();
+  EXPECT_EQ(form_->FocusedField(), u"Text18_1"_s);
+  form_->CancelCmd_Click();
+  EXPECT_EQ(position(), kPosition.arg(u"4"_s, u"4"_s));
+}
+
 }  // namespace
 }  // namespace veroxia::testing
