@@ -66,8 +66,7 @@ int RunLinesCommand(const QString& store_path, const QStringList& args) {
   if (!OpenStoreAt(vars, dialogs, store_path)) return kFailed;
   vars.DeclarationId = static_cast<std::int16_t>(args[2].toInt());
   if (args[0] == u"export-lines") {
-    return ExportLinesTo(*vars.StoreConnection, kind, vars.DeclarationId, dialogs, file) ? 0
-                                                                                         : kFailed;
+    return ExportLinesTo(vars, kind, dialogs, file) ? 0 : kFailed;
   }
   try {
     TakePeriod(vars, kind);

@@ -14,6 +14,7 @@
 #include "rules/check_digits.h"
 #include "rules/texts.h"
 #include "shell/errors.h"
+#include "shell/file_names.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
 
@@ -382,10 +383,11 @@ int ExportLines(Database& db, Kind kind, int id, const QString& path) {
   return count;
 }
 
-bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString path) {
+bool ExportLinesTo(const Vars& vars, Kind kind, Dialogs& dialogs, QString path) {
+  const int id = vars.DeclarationId;
   if (path.isEmpty()) {
     const QString suggested =
-        u"%1-%2.csv"_s.arg(kind == Kind::Common ? u"lines"_s : u"workers"_s).arg(id);
+        DeclarationFileName(kind, id, vars.PeriodFrom, vars.PeriodTo, u"csv"_s);
     path = dialogs.AskFile({kExportTitle, kCsvFilter, suggested, true});
   }
   if (path.isEmpty()) return false;
@@ -394,7 +396,7 @@ bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString pa
   {
     BusyPointer busy(dialogs);
     try {
-      count = ExportLines(db, kind, id, path);
+      count = ExportLines(*vars.StoreConnection, kind, id, path);
     } catch (const StoreError& error) {
       outcome = ErrorMessage(texts::kFileNotWritten.arg(path), error);
     } catch (const FileError& error) {

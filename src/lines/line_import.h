@@ -113,8 +113,9 @@ bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path = {},
 // that cannot be written throws StoreError with the system's error number.
 int ExportLines(Database& db, Kind kind, int id, const QString& path);
 
-// The export as the user meets it: the file chooser unless `path` is given,
+// The export of the declaration of `vars` as the user meets it: the file
+// chooser unless `path` is given (offering the declaration's own file name),
 // then the outcome. True when written.
-bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString path = {});
+bool ExportLinesTo(const Vars& vars, Kind kind, Dialogs& dialogs, QString path = {});
 
 }  // namespace veroxia

@@ -489,7 +489,7 @@ void LinesForm::ImportCmd_Click() {
   });
 }
 
-void LinesForm::ExportCmd_Click() { ExportLinesTo(Store(), layout_.kind, Id(), dialogs_); }
+void LinesForm::ExportCmd_Click() { ExportLinesTo(vars_, layout_.kind, dialogs_); }
 
 void LinesForm::SeekLine() {
   const qsizetype shown = line_set_.Position();

@@ -20,6 +20,7 @@
 #include "lines/ovt_form2.h"
 #include "lines/ovt_form4.h"
 #include "lines/texts.h"
+#include "shell/file_names.h"
 #include "support/fakes.h"
 
 namespace veroxia::testing {
@@ -103,13 +104,17 @@ TEST_P(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
   EXPECT_TRUE(view->isVisible());
 }
 
-// Clear puts the focus on the first box, where the user sees it; in browse
-// mode the number of a line and Enter show that line and where it stands.
+// Clear puts the focus on the first box, where the user sees it; the export
+// offers the declaration's file name; in browse mode the number of a line
+// and Enter show that line and where it stands.
 TEST_P(LinesViewTest, ClearFocusesTheFirstBoxAndEnterGoesToALine) {
   TypeInto(*view, GetParam().surname, u"Papas"_s);
   Click(*view, u"ClearCmd"_s);
   EXPECT_EQ(Focused(*view), form->FirstField());
   EXPECT_TRUE(Find<QLineEdit>(*view, GetParam().surname)->text().isEmpty());
+  Click(*view, u"ExportCmd"_s);
+  EXPECT_EQ(dialogs.file_questions.back().suggested,
+            DeclarationFileName(form->Layout().kind, 1, u"012002"_s, u"012002"_s, u"csv"_s));
 
   store.vars.StoreConnection->Exec(
       form->Layout().kind == Kind::Common
