@@ -94,14 +94,30 @@ TEST(Cli, LinesGoOutToACsvFileAndComeBackTheSame) {
     EXPECT_EQ(LinesOf(path, k.table, 2), LinesOf(path, k.table, 1));
     EXPECT_EQ(LinesOf(path, k.table, 1).size(), k.lines.size());
 
+    // Into a declaration with lines only with an option: appended, rows
+    // repeating stored lines are refused unless kept; replaced, the lines
+    // come back as they were.
     const auto before = LinesOf(path, k.table, 1);
-    const CliRun failed = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, bad});
+    const CliRun refused = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, bad});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, kExistingLinesOption.arg(1).arg(lines) + u'\n');
+    const CliRun failed = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, bad, u"--append"_s});
     EXPECT_EQ(failed.status, 1);
     EXPECT_TRUE(failed.err.startsWith(kReportLine + u'\t')) << failed.err.toStdString();
     EXPECT_TRUE(failed.err.endsWith(kRowsFailed.arg(1).arg(2) + u'\n'));
+    const QStringList again{u"--store"_s, path, u"import"_s, kind, u"1"_s, in, u"--append"_s};
+    const CliRun repeated = Cli(again);
+    EXPECT_EQ(repeated.status, 1);
+    EXPECT_TRUE(repeated.err.endsWith(kRepeatsRefused.arg(lines) + u'\n'));
+    EXPECT_EQ(Cli(again + QStringList{u"--keep-duplicates"_s}).status, 0);
+    EXPECT_EQ(LinesOf(path, k.table, 1).size(), 2 * k.lines.size());
+    EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, u"--replace"_s, in}).status, 0);
     EXPECT_EQ(LinesOf(path, k.table, 1), before);
   }
   EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, u"common"_s, u"one"_s, u"in.csv"_s}).status, 2);
+  EXPECT_EQ(
+      Cli({u"import"_s, u"common"_s, u"1"_s, u"in.csv"_s, u"--append"_s, u"--replace"_s}).status,
+      2);
 }
 
 }  // namespace
