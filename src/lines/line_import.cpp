@@ -331,8 +331,7 @@ std::optional<QString> LineImport::Repeat(qint64 line) {
   }
   const std::optional<LineIdentities::Origin> before = identities_->Meet(parts_, {false, line});
   if (!before) return std::nullopt;
-  return (before->stored ? kDuplicateOfStored : kDuplicateInFile)
-      .arg(identity_captions_, QString::number(before->number));
+  return (before->stored ? kDuplicateOfStored : kDuplicateInFile).arg(before->number);
 }
 
 void LineImport::Run(Progress* progress) {
@@ -448,8 +447,10 @@ Report LineImport::WarningReport() const {
 }
 
 Report LineImport::RepeatReport() const {
-  return ProblemReport(kRepeatsTitle, repeats_, repeated_rows_,
-                       kRepeatsVerdict.arg(repeated_rows_).arg(rows_));
+  Report report = ProblemReport(kRepeatsTitle, repeats_, repeated_rows_,
+                                kRepeatsVerdict.arg(repeated_rows_).arg(rows_));
+  report.about << kRepeatsAbout.arg(identity_captions_);
+  return report;
 }
 
 bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,

@@ -294,7 +294,7 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
                      With(ValidCommonLine(u"300000001"_s), u"Text36"_s, u"1"_s), nobody, nobody});
   const QStringList before{u"1 1"_s, u"2 200000001"_s};
   const QStringList file{u"1 300000001"_s, u"2 300000002"_s};
-  const QString in_file = u"4 "_s + kDuplicateInFile.arg(same, u"3"_s);
+  const QString in_file = u"4 "_s + kDuplicateInFile.arg(3);
   const struct {
     int id;
     int choice;  // the answer to the question; -1: the box closed
@@ -306,7 +306,7 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
       {2, -1, clean, false, file, {}},
       {1, -1, clean, false, before, {}},
       {1, 2, clean, false, before, {}},
-      {1, 0, repeats, false, before, {u"2 "_s + kDuplicateOfStored.arg(same, u"2"_s), in_file}},
+      {1, 0, repeats, false, before, {u"2 "_s + kDuplicateOfStored.arg(2), in_file}},
       {1, 1, repeats, false, before, {in_file}},
       {1, 0, clean, false, before + QStringList{u"3 300000001"_s, u"4 300000002"_s}, {}},
       {1, 1, clean, false, file, {}},
@@ -340,6 +340,7 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
         listed << row.cells[0] + u' ' + row.cells[3];
       }
       EXPECT_EQ(dialogs_.confirm_captions.back(), kRepeatsGo);
+      EXPECT_EQ(dialogs_.confirmed.back().about, QStringList{kRepeatsAbout.arg(same)});
     }
     EXPECT_EQ(listed, c.repeats);
     EXPECT_EQ(stored, goes_on && (c.repeats.isEmpty() || c.keep));
