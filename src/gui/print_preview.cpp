@@ -1,5 +1,6 @@
 #include "gui/print_preview.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFileInfo>
@@ -9,6 +10,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPrintDialog>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -23,6 +25,7 @@
 
 #include "gui/paper/painter_printer.h"
 #include "gui/paper/pdf_printer.h"
+#include "gui/qt_dialogs.h"
 #include "printing/texts.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
@@ -144,6 +147,16 @@ bool DrawOn(QPrinter& target, const DrawPrintout& draw) {
 }
 
 void ShowPrintPreview(QWidget* parent, Dialogs& dialogs, const PrintJob& job) {
+  // A failure told while the pages are composed or sent is told once their
+  // progress bar has gone, not under it.
+  const BeforeBoxOpens bar_away([] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* bar = qobject_cast<QProgressDialog*>(window)) {
+        bar->reset();  // nor shown later by its timer
+        bar->hide();
+      }
+    }
+  });
   PageFile pages;
   bool drawn = false;
   dialogs.RunWithProgress(pt::kComposing,
