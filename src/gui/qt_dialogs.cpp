@@ -256,14 +256,17 @@ void QtDialogs::SetBusy(bool busy) {
   }
 }
 
-void QtDialogs::PrintPreview(const std::function<bool(Printer&)>& draw) {
+void QtDialogs::PrintPreview(const PrintJob& job) {
   BeforeBoxOpens::RunAll();
   if (unattended_) {
+    struct Unstopped : Progress {
+      bool Advance(qint64, qint64) override { return true; }
+    } progress;
     TextPrinter pages(stdout);
-    draw(pages);
+    job.draw(pages, progress);
     return;
   }
-  ShowPrintPreview(Owner(), draw);
+  ShowPrintPreview(Owner(), *this, job);
 }
 
 void QtDialogs::ShowReport(const Report& report) {

@@ -94,11 +94,14 @@ class FakeDialogs : public Dialogs {
     return answer;
   }
 
-  // Draws the printout once on a capture printer, as the preview would.
-  void PrintPreview(const std::function<bool(Printer&)>& draw) override {
+  // Draws the printout once on a capture printer, as the preview would, with
+  // the progress of RunWithProgress.
+  void PrintPreview(const PrintJob& job) override {
     printers.emplace_back();
     printers.back().fails_at = printer_fails_at;
-    printed.push_back(draw(printers.back()));
+    pdf_names << job.pdf_name;
+    Scripted progress(*this);
+    printed.push_back(job.draw(printers.back(), progress));
   }
 
   void ShowReport(const Report& report) override { reports.push_back(report); }
@@ -123,17 +126,6 @@ class FakeDialogs : public Dialogs {
   // Runs the task; the user stops it at the `stop_at`-th report of progress
   // (from 1; never when 0), which answers false from then on.
   void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) override {
-    class Scripted : public Progress {
-     public:
-      explicit Scripted(FakeDialogs& owner) : owner_(owner) {}
-      bool Advance(qint64 done, qint64 total) override {
-        owner_.progress.emplace_back(done, total);
-        return owner_.stop_at == 0 || static_cast<int>(owner_.progress.size()) < owner_.stop_at;
-      }
-
-     private:
-      FakeDialogs& owner_;
-    };
     progress_texts << text;
     Scripted progress(*this);
     task(progress);
@@ -166,6 +158,20 @@ class FakeDialogs : public Dialogs {
   QStringList progress_texts;
   std::vector<std::pair<qint64, qint64>> progress;  // every report of progress
   int stop_at = 0;
+  QStringList pdf_names;  // the PDF file name each preview offers
+
+ private:
+  class Scripted : public Progress {
+   public:
+    explicit Scripted(FakeDialogs& owner) : owner_(owner) {}
+    bool Advance(qint64 done, qint64 total) override {
+      owner_.progress.emplace_back(done, total);
+      return owner_.stop_at == 0 || static_cast<int>(owner_.progress.size()) < owner_.stop_at;
+    }
+
+   private:
+    FakeDialogs& owner_;
+  };
 };
 
 class FakeScreens : public Screens {
