@@ -126,5 +126,17 @@ TEST(WrapButtonTest, CaptionsKeepOffTheBevelAtTheNarrowestWidth) {
   EXPECT_TRUE(button.CaptionFits());
 }
 
+// At the width it asks for, a button shows its caption on one line.
+TEST(WrapButtonTest, AtItsPreferredWidthTheCaptionStandsOnOneLine) {
+  WrapButton button;
+  button.setText(u"Νέος φάκελος"_s);
+  for (const double points : {8.0, 8.5, 9.0}) {
+    QFont font = button.font();
+    font.setPointSizeF(points);
+    button.setFont(font);
+    EXPECT_EQ(button.sizeHint().height(), button.heightForWidth(10'000)) << points;
+  }
+}
+
 }  // namespace
 }  // namespace veroxia::testing
