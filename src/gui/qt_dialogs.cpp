@@ -233,14 +233,14 @@ SearchAnswer QtDialogs::AskInsuredPerson() {
   return view.Ask();
 }
 
-QString QtDialogs::AskDirectory(DirPurpose /*purpose*/) {
+QString QtDialogs::AskDirectory(DirPurpose purpose) {
+  DirForm form(QCoreApplication::applicationDirPath(), *this, SystemDrives, purpose);
   if (unattended_) {
-    Print(texts::kDirTitle, texts::kAppTitle);
+    Print(form.Title(), texts::kAppTitle);
     return {};
   }
   // The form sets the pointer itself: the arrow while open, the hourglass
   // after OK.
-  DirForm form(QCoreApplication::applicationDirPath(), *this);
   form.Load();
   DirView view(form, Owner());
   return view.Ask();

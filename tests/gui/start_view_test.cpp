@@ -135,6 +135,17 @@ TEST_P(NothingCutTest, AtTheWindowSizeAndWithAFrame) {
 
 INSTANTIATE_TEST_SUITE_P(States, NothingCutTest, ::testing::Values("", "Command1", "Command2"));
 
+// Enter (Return or the keypad's) in any period field presses OK.
+TEST_F(StartViewTest, EnterInAPeriodFieldPressesOk) {
+  Click(*view, "Command1");
+  Key(*Find(*view, "Month1"), Qt::Key_Enter);
+  EXPECT_EQ(dialogs.LastMessage(), texts::kStartMonthBlank);
+  for (const char* name : {"Month1", "Month2"}) TypeInto(*view, name, "01");
+  for (const char* name : {"Year1", "Year2"}) TypeInto(*view, name, "2002");
+  Key(*Find(*view, "Year2"), Qt::Key_Return);
+  EXPECT_EQ(screens.shown, QStringList{"header common"});
+}
+
 TEST(StartViewPictures, PicturesBesideTheProgramAreShown) {
   TempStore store;
   for (const char* file : {"ovt.gif", "qormain.ico"}) {

@@ -71,7 +71,57 @@ TEST(DirDialog, HandsBackTheOpenedDirectory) {
     EXPECT_EQ(dialogs.busy_calls,
               (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
   }
-  EXPECT_EQ(DirForm::FocusOrder(), QString(u"Dir1 Drive1 Command1 Command2"_s).split(u' '));
+  EXPECT_EQ(DirForm::FocusOrder(),
+            QString(u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s).split(u' '));
+}
+
+// In the program's directory app/, which holds out/ and a file "note": a
+// path typed into PathTxt and Enter ("go:", ~ for home), or "Νέος φάκελος"
+// answered with a name ("new:") or cancelled ("new").
+TEST(DirDialog, GoesToATypedPathAndMakesANewFolder) {
+  const struct {
+    QString step, path, message;  // the opened directory below home; %1 the typed text
+  } cases[] = {
+      {u"go: out "_s, u"/app/out"_s, {}},
+      {u"go:~/stick"_s, u"/stick"_s, {}},
+      {u"go:nowhere"_s, u"/app"_s, texts::kDirPathUnreadable},
+      {u"go:note"_s, u"/app"_s, texts::kDirPathUnreadable},
+      {u"new: made "_s, u"/app/made"_s, {}},
+      {u"new:out"_s, u"/app"_s, texts::kDirFolderExists},
+      {u"new:a/b"_s, u"/app"_s, texts::kDirFolderSeparator},
+      {u"new:  "_s, u"/app"_s, texts::kDirFolderNoName},
+      {u"new"_s, u"/app"_s, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.step.toStdString());
+    QTemporaryDir temp;
+    const QString home = temp.path();
+    ASSERT_TRUE(QDir(home).mkpath(u"app/out"_s) && QDir(home).mkpath(u"stick"_s));
+    ASSERT_TRUE(QFile(home + u"/app/note"_s).open(QIODevice::WriteOnly));
+    FakeDialogs dialogs;
+    DirForm form(home + u"/app"_s, dialogs, [&home] {
+      return QList<Drive>{{u"STICK"_s, home + u"/stick"_s}, {u"home"_s, home}};
+    });
+    form.Load();
+    const QString typed = c.step.section(u':', 1).replace(u'~', home);
+    const bool go = c.step.startsWith(u"go:");
+    form.Type(u"PathTxt"_s, go ? typed : QString());
+    form.AskNamesWith([&]() -> std::optional<QString> {
+      return c.step == u"new" ? std::nullopt : std::optional(typed);
+    });
+    go ? form.PathTxt_Enter() : form.NewDirCmd_Click();
+    EXPECT_EQ(form.Path(), home + c.path);
+    EXPECT_EQ(form.Text(u"Drive1"_s), c.path == u"/stick" ? u"STICK"_s : u"home"_s);
+    EXPECT_EQ(dialogs.LastMessage(),
+              c.message.contains(u"%1") ? c.message.arg(typed.trimmed()) : c.message);
+    // A path that failed stays typed and selected; once opened, the list has the focus.
+    const bool failed = go && !c.message.isEmpty();
+    EXPECT_EQ(form.Text(u"PathTxt"_s), failed ? typed : QString());
+    EXPECT_EQ(form.SelectionOf(u"PathTxt"_s).value_or(Selection{}).length,
+              failed ? typed.size() : 0);
+    EXPECT_EQ(form.FocusedField(),
+              failed ? u"PathTxt"_s : (c.path == u"/app" ? QString() : u"Dir1"_s));
+  }
 }
 
 }  // namespace
