@@ -16,9 +16,14 @@ namespace {
 
 const QStringList kKindButtons{"Command1", "Command4", "Command2", "Command5", "Command3"};
 
+// The pictures lie beside the program.
 class StartViewTest : public ::testing::Test {
  protected:
   void SetUp() override {
+    for (const char* file : {"ovt.gif", "qormain.ico"}) {
+      ASSERT_TRUE(
+          QFile::copy(QStringLiteral(VEROXIA_ASSETS "/") + file, store.Dir() + u'/' + file));
+    }
     ASSERT_TRUE(form.Load());
     view = std::make_unique<StartView>(form);
     ShowActive(*view);
@@ -106,7 +111,11 @@ TEST_F(StartViewTest, CancelKeepsThePeriodAndOkHandsOverToTheHeaderScreen) {
   EXPECT_EQ(store.vars.PeriodTo, "062002");
 }
 
-TEST_F(StartViewTest, Frame2LiesOverTheCommonFields) {
+TEST_F(StartViewTest, PicturesShowAndFrame2LiesOverTheCommonFields) {
+  const auto* img = Find<QLabel>(*view, "Img");
+  EXPECT_FALSE(img->pixmap().isNull());
+  EXPECT_LE(img->pixmap().width(), img->width());
+  EXPECT_FALSE(view->windowIcon().pixmap(32, 32).isNull());
   Click(*view, "Command2");
   const QWidget* frame1 = Find(*view, "Frame1");
   const QWidget* frame2 = Find(*view, "Frame2");
@@ -134,22 +143,6 @@ TEST_P(NothingCutTest, AtTheWindowSizeAndWithAFrame) {
 }
 
 INSTANTIATE_TEST_SUITE_P(States, NothingCutTest, ::testing::Values("", "Command1", "Command2"));
-
-TEST(StartViewPictures, PicturesBesideTheProgramAreShown) {
-  TempStore store;
-  for (const char* file : {"ovt.gif", "qormain.ico"}) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(VEROXIA_ASSETS "/") + file, store.Dir() + u'/' + file));
-  }
-  FakeDialogs dialogs;
-  FakeScreens screens;
-  StartForm form(store.vars, dialogs, screens);
-  ASSERT_TRUE(form.Load());
-  StartView view(form);
-  const auto* img = Find<QLabel>(view, "Img");
-  EXPECT_FALSE(img->pixmap().isNull());
-  EXPECT_LE(img->pixmap().width(), img->width());
-  EXPECT_FALSE(view.windowIcon().pixmap(32, 32).isNull());
-}
 
 }  // namespace
 }  // namespace veroxia::testing
