@@ -118,9 +118,7 @@ TEST_P(OvtForm1States, FieldsButtonsAndMessages) {
   for (const QString& step : steps) steps_.at(step)();
   EXPECT_EQ(State(), c.state);
   EXPECT_EQ(form_->IsNewHeader(), c.is_new_header);
-  QStringList messages;
-  for (const auto& message : dialogs_.messages) messages << message.title << message.text;
-  EXPECT_EQ(messages, c.messages);
+  EXPECT_EQ(FakeDialogs::Told(dialogs_.messages), c.messages);
   EXPECT_EQ(screens_.shown, c.shown);
   EXPECT_EQ(form_->ClosingByCommand(), !c.shown.isEmpty());
   EXPECT_TRUE(c.shown.isEmpty() || form_->QueryClose());  // closes without a question
@@ -222,9 +220,8 @@ TEST_F(OvtForm1Screen, CloseBoxAsksAndYesEndsTheProgram) {
     dialogs_.questions.clear();
     dialogs_.answers = {yes};
     EXPECT_EQ(Open().QueryClose(), yes);
-    QStringList asked;
-    for (const auto& question : dialogs_.questions) asked << question.title << question.text;
-    EXPECT_EQ(asked, (QStringList{kOvtForm1CloseTitle, kCloseQuestion}));
+    EXPECT_EQ(FakeDialogs::Told(dialogs_.questions),
+              (QStringList{kOvtForm1CloseTitle, kCloseQuestion}));
     EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
     EXPECT_EQ(screens_.quit_status, yes ? std::optional(0) : std::nullopt);
     EXPECT_TRUE(screens_.shown.isEmpty());

@@ -108,11 +108,11 @@ TEST(CsvReaderTest, RecordsAcrossThePiecesReadWhole) {
   }
 }
 
-class LineImportTest : public ::testing::Test {
+class LineImportTest : public ScreenTest<OvtForm2> {
  protected:
   LineImportTest() {
-    store_.vars.PeriodFrom = u"012002"_s;
-    store_.vars.PeriodTo = u"032002"_s;
+    vars_.PeriodFrom = u"012002"_s;
+    vars_.PeriodTo = u"032002"_s;
     db_.Exec(
         "INSERT INTO QOR_EMPLOYERS (id) VALUES (1), (2); "
         "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '1')");
@@ -123,19 +123,15 @@ class LineImportTest : public ::testing::Test {
   bool Import(const QByteArray& csv, int id = 1) {
     const QString path = dir_.filePath(u"lines.csv"_s);
     EXPECT_TRUE(WriteFile(path, csv));
-    store_.vars.DeclarationId = static_cast<std::int16_t>(id);
+    vars_.DeclarationId = static_cast<std::int16_t>(id);
     dialogs_.files.push_back(path);
-    const auto form = MakeLinesForm(Kind::Common, store_.vars, dialogs_, screens_);
+    const auto form = MakeLinesForm(Kind::Common, vars_, dialogs_, screens_);
     return ImportLines(*form, dialogs_);
   }
 
   std::vector<std::vector<Text>> Stored() { return DumpTable(db_, "QOR_EMPLOYEES"); }
 
   QTemporaryDir dir_;
-  TempStore store_;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
 };
 
 // Every row that fails is reported with its line, column, value and the
@@ -248,9 +244,8 @@ TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
 // On the screen: the import waits for new or browse mode, and the first
 // line brought in is shown, in browse mode, before the user is told.
 TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
-  store_.vars.DeclarationId = 2;
-  OvtForm2 form(store_.vars, dialogs_, screens_);
-  form.Load();
+  vars_.DeclarationId = 2;
+  OvtForm2& form = Open();
   EXPECT_TRUE(form.At(u"ImportCmd"_s).enabled && form.NewMode());
   const QString path = dir_.filePath(u"lines.csv"_s);
   ASSERT_TRUE(WriteFile(path, Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)})));

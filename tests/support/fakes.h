@@ -140,6 +140,12 @@ class FakeDialogs : public Dialogs {
   }
 
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
+  // The title and text of each message (or question), in turn.
+  static QStringList Told(const std::vector<ShownMessage>& shown) {
+    QStringList told;
+    for (const ShownMessage& message : shown) told << message.title << message.text;
+    return told;
+  }
 
   std::vector<ShownMessage> messages;
   std::vector<Report> reports;
