@@ -42,7 +42,7 @@ class StartViewTest : public ::testing::Test {
 };
 
 // A kind button opens the period frame (Frame2 for construction works); the
-// tab key then stops only where the logic says.
+// tab key then stops only where the logic says, and nothing is cut.
 struct KindCase {
   const char* button;  // none: the choosing state
   bool carry_over;
@@ -73,6 +73,14 @@ TEST_P(ChooseKindTest, KindButtonsOpenThePeriodFrameAndTheTabKeyFollows) {
   }
   EXPECT_EQ(visited, stops);
   EXPECT_EQ(form.FocusedField(), stops.back());  // the logic heard of every move
+  // Nothing is cut at the window's size, nor at a somewhat smaller inner size
+  // such as a window frame leaves.
+  for (const QSize inner : {view->size(), view->size() - QSize(8, 34)}) {
+    view->setFixedSize(inner);
+    QApplication::processEvents();
+    SCOPED_TRACE(::testing::Message() << inner.width() << "x" << inner.height());
+    ExpectNothingCut(*view);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -127,22 +135,6 @@ TEST_F(StartViewTest, PicturesShowAndFrame2LiesOverTheCommonFields) {
     EXPECT_TRUE(seen == frame2 || frame2->isAncestorOf(seen)) << name;
   }
 }
-
-// Nothing is cut at the window's size, and at a somewhat smaller inner size
-// such as a window frame leaves.
-class NothingCutTest : public StartViewTest, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(NothingCutTest, AtTheWindowSizeAndWithAFrame) {
-  for (const QSize inner : {view->size(), view->size() - QSize(8, 34)}) {
-    view->setFixedSize(inner);
-    if (*GetParam() != '\0') Click(*view, GetParam());
-    QApplication::processEvents();
-    SCOPED_TRACE(::testing::Message() << inner.width() << "x" << inner.height());
-    ExpectNothingCut(*view);
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(States, NothingCutTest, ::testing::Values("", "Command1", "Command2"));
 
 }  // namespace
 }  // namespace veroxia::testing
