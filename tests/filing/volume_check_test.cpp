@@ -19,9 +19,7 @@ using namespace Qt::StringLiterals;
 using enum VolumeFault;
 
 void Write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-  file.write(bytes);
+  ASSERT_TRUE(testing::WriteFile(path, bytes));
 }
 
 // Declaration 1 of the kind with a header of a Greek name and `lines` lines

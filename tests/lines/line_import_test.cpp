@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "lines/import_texts.h"
@@ -70,13 +69,11 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
     EXPECT_EQ(reader.Position(), reader.Size());
   }
   // Files that are no text of either encoding are refused whole.
+  // clang-format off
   const std::pair<QByteArray, QString> refused[] = {
-      {QByteArray("\xFF\xFE"
-                  "a\0;\0",
-                  6),
-       u"UTF-16"_s},
-      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)},
-  };
+      {QByteArray("\xFF\xFE" "a\0;\0", 6), u"UTF-16"_s},
+      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)}};
+  // clang-format on
   for (const auto& [bytes, why] : refused) {
     const QString path = dir.filePath(u"b.csv"_s);
     ASSERT_TRUE(WriteFile(path, bytes));

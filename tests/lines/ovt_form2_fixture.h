@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "lines/ovt_form2.h"
 #include "store/lines.h"
 #include "support/fakes.h"

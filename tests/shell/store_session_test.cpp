@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -35,12 +34,6 @@ void Damage(const QString& path) {
   ASSERT_TRUE(file.open(QIODevice::ReadWrite));
   ASSERT_TRUE(file.seek(file.size() / 2));
   file.write(QByteArray(16, '\0'));
-}
-
-int Lines(const QString& path) {
-  auto db = Database::Open(path, StorePassword());
-  Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
-  return count.Next() ? count.Int(0) : -1;
 }
 
 TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
@@ -126,7 +119,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     // A refused or damaged store is never written to; the backup was made
     // before the first change reached the store.
     EXPECT_TRUE(c.writes || testing::FileBytes(store.Path()) == before);
-    EXPECT_TRUE(!c.writes || c.backups != 1 || Lines(made.first()) == 3000);
+    EXPECT_TRUE(!c.writes || c.backups != 1 || testing::CommonLinesIn(made.first()) == 3000);
     EXPECT_FALSE(QFileInfo::exists(store.Path() + u".lock"_s));
   }
 }
