@@ -1,8 +1,8 @@
 // The states of the common-business header screen: which fields are unlocked,
 // which buttons are shown and usable, what is told and which screen follows,
-// on opening and after each button; the type selection, the focus selection,
-// the cancelled correction and the close box. First the checks: each rule in
-// its place of the order, the stop date against the type, the sequence runner.
+// on opening and after each button; the type selection and the cancelled
+// correction. First the checks: each rule in its place of the order, the stop
+// date against the type, and the sequence runner.
 
 #include <functional>
 #include <map>
@@ -265,23 +265,6 @@ TEST_F(OvtForm1Screen, TypeSelection) {
   }
 }
 
-TEST_F(OvtForm1Screen, AFieldTakingTheFocusHasItsWholeContentSelected) {
-  OvtForm1& form = Open();
-  for (const auto& [field, text] : {std::pair{u"Text2"_s, u"12"_s},
-                                    {u"Text4"_s, QString(80, u'Α')},
-                                    {u"Text14_1"_s, u"12345"_s},
-                                    {u"StopDateTxt"_s, kEmptyDateBox}}) {
-    form.Type(field, text);
-    form.GotFocus(field);
-    EXPECT_EQ(form.FocusedField(), field);
-    const auto selection = form.SelectionOf(field);
-    EXPECT_EQ(selection ? selection->length : -1, static_cast<int>(text.size()));
-  }
-  form.GotFocus(u"SaveCmd"_s);  // not a field: the focus only
-  EXPECT_EQ(form.FocusedField(), u"SaveCmd"_s);
-  EXPECT_FALSE(form.SelectionOf(u"SaveCmd"_s).has_value());
-}
-
 TEST_F(OvtForm1Screen, CorrectionStartsInTheBranchCodeAndCancelBringsBackTheStoredValues) {
   Store(StoredRow());
   OvtForm1& form = Open();
@@ -297,19 +280,6 @@ TEST_F(OvtForm1Screen, CorrectionStartsInTheBranchCodeAndCancelBringsBackTheStor
   form.CancelCmd_Click();
   EXPECT_EQ(Texts(form.Names()), shown);
   EXPECT_EQ(form.SelectedType(), 1);
-}
-
-TEST_F(OvtForm1Screen, CloseBoxAsksAndYesEndsTheProgram) {
-  for (const bool yes : {false, true}) {
-    dialogs_.questions.clear();
-    dialogs_.answers = {yes};
-    EXPECT_EQ(Open().QueryClose(), yes);
-    EXPECT_EQ(FakeDialogs::Told(dialogs_.questions),
-              (QStringList{kOvtForm1CloseTitle, kCloseQuestion}));
-    EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
-    EXPECT_EQ(screens_.quit_status, yes ? std::optional(0) : std::nullopt);
-    EXPECT_TRUE(screens_.shown.isEmpty());
-  }
 }
 
 }  // namespace

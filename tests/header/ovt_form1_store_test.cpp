@@ -8,7 +8,6 @@
 
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
-#include "rules/checks.h"
 #include "shell/texts.h"
 
 namespace veroxia {
@@ -168,14 +167,6 @@ TEST_F(OvtForm1Store, TakenOverHeaderIsStoredUncheckedWithTheLinesUnderTheNewId)
                                stored.to_month, stored.CreateFlDate, stored.stop_date}),
             (std::vector<Text>{u"02"_s, previous.total_salaries, u"01"_s, u"03"_s, u""_s, u""_s}));
   EXPECT_EQ(ValuesOf(*Stored(kId - 1)), ValuesOf(previous));
-
-  // A correction now faces the checks and updates the same row.
-  form.UpDateCmd_Click();
-  form.SaveCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), *CheckInteger(form.Text(u"Text2"_s), kNameOvtCode, 3, true));
-  TypeValidHeader();
-  form.SaveCmd_Click();
-  EXPECT_EQ(Stored()->employer_name, u"ΗΛΙΑΣ Α.Ε."_s);
   EXPECT_EQ(HeaderCount(), 2);
 }
 
