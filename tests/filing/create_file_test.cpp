@@ -8,6 +8,7 @@
 #include "filing/texts.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/files.h"
 #include "support/store_rows.h"
 
 namespace veroxia {
@@ -15,11 +16,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace filing_texts;
-
-QByteArray Bytes(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-}
 
 // One run of "Δημιουργία αρχείου" from the user's side: what is asked, what
 // is told, what is written, and that the store is left as it was.
@@ -74,7 +70,7 @@ TEST(CreateFile, EveryWayOutOfARun) {
     QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
     if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
-    const QByteArray stored = Bytes(store.Path());
+    const QByteArray stored = testing::FileBytes(store.Path());
 
     testing::FakeDialogs dialogs;
     const QString directory = QString::fromLatin1(c.directory).replace(u"out"_s, out);
@@ -94,10 +90,10 @@ TEST(CreateFile, EveryWayOutOfARun) {
       EXPECT_TRUE(dialogs.messages[0].text.startsWith(expected))
           << dialogs.messages[0].text.toStdString();
     }
-    EXPECT_TRUE(Bytes(out + u"/CSL01"_s).startsWith(c.volume));
+    EXPECT_TRUE(testing::FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
     EXPECT_EQ(QDir(out).entryList(QDir::Files | QDir::Hidden), QStringList{u"CSL01"_s});
     EXPECT_FALSE(dialogs.busy);
-    EXPECT_EQ(Bytes(store.Path()), stored);
+    EXPECT_EQ(testing::FileBytes(store.Path()), stored);
   }
 }
 

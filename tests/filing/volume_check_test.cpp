@@ -19,9 +19,7 @@ using namespace Qt::StringLiterals;
 using enum VolumeFault;
 
 void Write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-  file.write(bytes);
+  ASSERT_TRUE(testing::WriteFile(path, bytes));
 }
 
 // Declaration 1 of the kind with a header of a Greek name and `lines` lines
@@ -44,6 +42,7 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     int lines, shared, volumes, persons;
   } cases[] = {
       {Kind::Common, 0, 0, 1, 0},
+      {Kind::Construction, 0, 0, 1, 0},
       {Kind::Common, 3, 2, 1, 2},
       {Kind::Common, 15'000, 4'000, 3, 4'000},
       {Kind::Construction, 14'753, 40, 2, 40},
@@ -71,23 +70,6 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     EXPECT_EQ(text.size(), c.volumes + 4);
     EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
   }
-}
-
-// The writer's groups as the store holds them: blanks after an id and an
-// empty id open a group at every line.
-TEST(VolumeCheck, ExpectedPersonsAreTheWritersGroups) {
-  testing::TempStore store;
-  Database& db = store.Open();
-  db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id) VALUES (1);"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '111'), (1, 2, '111'), "
-      "(1, 3, '222'), (1, 4, '333 '), (1, 5, '333 '), (1, 6, '444'), (1, 7, ''), (1, 8, '444')");
-  const std::optional<VolumeCounts> counts = ExpectedCounts(db, Kind::Common, 1);
-  ASSERT_TRUE(counts);
-  EXPECT_EQ(counts->persons, 6);
-  EXPECT_EQ(counts->lines, 8);
-  EXPECT_FALSE(ExpectedCounts(db, Kind::Common, 2));
-  EXPECT_FALSE(ExpectedCounts(db, Kind::Construction, 1));
 }
 
 // Every byte from 0x80 on, one at a time in a header: those Windows-1253

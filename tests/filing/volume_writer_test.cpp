@@ -5,6 +5,7 @@
 #include <random>
 
 #include "filing/plain_field.h"
+#include "filing/volume_check.h"
 #include "support/fakes.h"
 #include "support/store_rows.h"
 
@@ -242,6 +243,7 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
 
 // A record "2" opens a group at every change of the stored id against the
 // trimmed id before it; an empty id opens one and so does the line after it.
+// The persons the volumes are checked against are those groups.
 TEST_F(VolumeWriterTest, GroupsFollowTheStoredInsuredId) {
   int row = 0;
   for (const Text& id : std::initializer_list<Text>{
@@ -261,13 +263,12 @@ TEST_F(VolumeWriterTest, GroupsFollowTheStoredInsuredId) {
             "23"
             "233"
             "E");
-}
-
-TEST_F(VolumeWriterTest, NoLinesGiveOneVolumeWithTheHeaderOnly) {
-  const MemoryVolumes volumes = Write<ConEmployerRow>();
-  ASSERT_EQ(volumes.volumes.size(), 1u);
-  EXPECT_EQ(volumes.Types(0), "1E");
-  EXPECT_TRUE(volumes.Records(0)[0].startsWith("10101CSC01   01"));
+  const std::optional<VolumeCounts> counts = ExpectedCounts(db(), Kind::Common, 1);
+  ASSERT_TRUE(counts);
+  EXPECT_EQ(counts->persons, 6);
+  EXPECT_EQ(counts->lines, 8);
+  EXPECT_FALSE(ExpectedCounts(db(), Kind::Common, 2));
+  EXPECT_FALSE(ExpectedCounts(db(), Kind::Construction, 1));
 }
 
 // A line starts a new volume when it could take the volume past 1,400,000
@@ -299,22 +300,6 @@ TEST_F(VolumeWriterTest, ConstructionVolumesBreakAtTheirMargin) {
   EXPECT_EQ(volumes.Types(1), "123E");
   EXPECT_EQ(volumes.Records(0)[0].left(10), "10301CSC01");
   EXPECT_EQ(volumes.Records(1)[0].left(10), "10302CSC02");
-}
-
-TEST_F(VolumeWriterTest, ACharacterTheCodePageCannotHoldStopsTheRun) {
-  InsertRow(db(), testing::SampleLine<EmployeeRow>(1, 1, u"111"_s));
-  auto line = testing::SampleLine<EmployeeRow>(1, 7, u"222"_s);
-  line.mother_name = u"ΜΑΡΙЯ"_s;  // a Cyrillic letter
-  InsertRow(db(), line);
-  try {
-    Write<EmployerRow>();
-    ADD_FAILURE() << "written";
-  } catch (const Unencodable& fault) {
-    EXPECT_EQ(fault.row_num, u"7"_s);
-    EXPECT_EQ(fault.insured_id, u"222"_s);
-    EXPECT_EQ(fault.field, u"24"_s);
-    EXPECT_EQ(fault.character, u"Я"_s);
-  }
 }
 
 }  // namespace

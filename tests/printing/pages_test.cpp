@@ -264,19 +264,13 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
     FakeDialogs dialogs;
     Database& db = store.Open();
     store.vars.DeclarationId = 1;
-    if (common) {
-      InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}));
-    } else {
-      InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
-    }
+    common ? InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}))
+           : InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
-      if (common) {
-        InsertRow(db,
-                  With<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}));
-      } else {
-        InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
-      }
+      common ? InsertRow(db, With<EmployeeRow>(
+                                 n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
+             : InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
     }
     const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
