@@ -28,6 +28,16 @@ inline const QString kDirectoryNotWritable = u"Δεν επιτρέπεται η 
 // The header's totals do not agree with the lines, or a value is no number or
 // a check digit is wrong.
 inline const QString kTotalsQuestion = u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων, ή κάποιος αριθμός δεν είναι σωστός (δείτε τον έλεγχο συνόλων). Θέλετε να δημιουργηθεί το αρχείο;"_s;
+// The volumes of an earlier run found in the chosen directory: its path,
+// then a line naming those of the declaration's kind and one naming those of
+// the other kind, then the question.
+inline const QString kOldVolumes = u"ΠΡΟΣΟΧΗ!! Ο κατάλογος '%1' έχει ήδη τόμους αρχείου Ξ.Ρ.Φ.:"_s;
+inline const QString kOldVolumesReplaced = u"%1: θα αντικατασταθούν από τους νέους τόμους ή θα διαγραφούν."_s;
+inline const QString kOldVolumesOtherKind = u"%1 (του άλλου είδους δήλωσης): θα διαγραφούν, ώστε ο κατάλογος να έχει ένα μόνο αρχείο Ξ.Ρ.Φ."_s;
+inline const QString kOldVolumesQuestion = u"Θέλετε να δημιουργηθεί το αρχείο;"_s;
+// A directory holding a write cut short (the program ended while it wrote
+// or put the volumes in place).
+inline const QString kUnfinishedWrite = u"Η δημιουργία του αρχείου Ξ.Ρ.Φ. σε αυτόν τον κατάλογο διακόπηκε πριν τελειώσει, και οι τόμοι του μπορεί να είναι μισοί ή ανάμεικτοι. Δημιουργήστε ξανά το αρχείο στον ίδιο κατάλογο."_s;
 // clang-format on
 
 }  // namespace veroxia::filing_texts

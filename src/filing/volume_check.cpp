@@ -9,6 +9,7 @@
 #include <map>
 
 #include "filing/texts.h"
+#include "filing/volume_files.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
 #include "shell/errors.h"
@@ -428,27 +429,13 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
     check.findings.push_back(Finding(0, 0, VolumeFault::kNoDirectory));
     return check;
   }
-  // The volumes of each kind by number; files named like volumes otherwise.
-  std::map<int, QString> found[2];
-  QStringList misnamed;
-  bool seen[2] = {false, false};
-  const QStringList names = dir.entryList(QDir::Files | QDir::Hidden, QDir::Name);
-  for (const Kind kind : {Kind::Common, Kind::Construction}) {
-    const int k = kind == Kind::Common ? 0 : 1;
-    const QLatin1StringView prefix(VolumeLayoutOf(kind).prefix);
-    for (const QString& name : names) {
-      if (!name.startsWith(prefix)) continue;
-      seen[k] = true;
-      const QString digits = name.mid(prefix.size());
-      bool number = false;
-      const int n = digits.toInt(&number);
-      if (number && n >= 1 && VolumeNumber(n) == digits) {
-        found[k][n] = name;
-      } else {
-        misnamed << name;
-      }
-    }
+  // Whatever volumes a write cut short left, they are not to be trusted.
+  if (!UnfinishedWrites(directory).isEmpty()) {
+    check.findings.push_back(Finding(0, 0, VolumeFault::kUnfinished));
+    return check;
   }
+  const FoundVolumes found = FindVolumes(directory);
+  const bool* seen = found.seen;
   if (seen[0] == seen[1]) {
     check.findings.push_back(
         Finding(0, 0, seen[0] ? VolumeFault::kBothKinds : VolumeFault::kNoVolumes));
@@ -458,10 +445,10 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
   check.kind = kind;
   const VolumeLayout& layout = VolumeLayoutOf(kind);
   Checker checker(layout, check);
-  for (const QString& name : misnamed) {
+  for (const QString& name : found.misnamed) {
     checker.Add(Finding(0, 0, VolumeFault::kBadName, 0, 0, name));
   }
-  const std::map<int, QString>& volumes = found[seen[0] ? 0 : 1];
+  const std::map<int, QString>& volumes = found.named[seen[0] ? 0 : 1];
   check.volumes.reserve(volumes.size());  // the checker holds on to the one it reads
   int next = 1;
   for (const auto& [number, name] : volumes) {
@@ -508,6 +495,8 @@ QString FaultText(VolumeFault fault) {
   switch (fault) {
     case VolumeFault::kNoDirectory:
       return filing_texts::kDirectoryMissing;
+    case VolumeFault::kUnfinished:
+      return filing_texts::kUnfinishedWrite;
     case VolumeFault::kNoVolumes:
       return u"Ο κατάλογος δεν έχει τόμους αρχείου Ξ.Ρ.Φ. (CSL01 ή CSC01 και τους επόμενους)."_s;
     case VolumeFault::kBothKinds:

@@ -36,6 +36,7 @@ std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id);
 enum class VolumeFault {
   // The directory and the set of volumes.
   kNoDirectory,
+  kUnfinished,  // a write cut short: nothing else is checked
   kNoVolumes,
   kBothKinds,
   kOtherKind,    // the volumes are not of the declaration's kind
@@ -98,12 +99,11 @@ struct VolumeCheck {
 // Findings kept of each volume, and of the set as a whole.
 inline constexpr int kKeptFindings = 20;
 
-// Reads and checks the volumes of either kind in the directory; compares
-// them with the expected counts when given. As the writer writes them, every
-// volume ends with "EOF", and a volume is followed by another only when its
-// next line might not have fitted: the first whole volume with room left ends
-// the file, and any volume after it is extra. The headers are compared with
-// the first volume's.
+// Reads and checks the volumes of either kind in the directory, unless it
+// holds a write cut short; compares them with the expected counts when given. As the writer writes
+// them, every volume ends with "EOF", and a volume is followed by another only when its next line
+// might not have fitted: the first whole volume with room left ends the file, and any volume after
+// it is extra. The headers are compared with the first volume's.
 VolumeCheck VerifyVolumes(const QString& directory,
                           std::optional<VolumeCounts> expected = std::nullopt);
 

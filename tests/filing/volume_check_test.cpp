@@ -222,5 +222,75 @@ TEST_F(BrokenVolumes, CountsAgainstTheStore) {
   EXPECT_EQ(VerifyVolumes(store_.Dir()).findings.at(0).fault, kNoVolumes);
 }
 
+// Putting a set in place stopped before each of its steps, as a kill would
+// stop it (or failing there): a directory of three older volumes and a note,
+// one new volume. Until the next write finishes it, the check refuses the
+// directory whatever it shows; finished, it holds the old set (stopped
+// before the journal) or the new one. A failure undoes the steps taken.
+TEST(VolumeFilesPutInPlace, StoppedAtEachStep) {
+  const QStringList old{u"CSC01"_s, u"CSL01"_s, u"CSL02"_s, u"notes.txt"_s};
+  const struct {
+    int step;  // -1: not stopped
+    bool fails;
+    const char* left;  // the directory's files when stopped
+    bool refused;      // the check says the write is unfinished
+    bool is_new;       // what the directory holds in the end
+  } cases[] = {
+      {0, false, "CSC01 CSL01 CSL02 notes.txt", true, false},
+      {1, false, "CSC01 CSL01 CSL02 notes.txt", true, true},  // the journal written
+      {2, false, "CSL01 CSL02 notes.txt", true, true},
+      {3, false, "CSL01 notes.txt", true, true},  // the old CSL01
+      {4, false, "notes.txt", true, true},
+      {5, false, "CSL01 notes.txt", true, true},  // the new CSL01
+      {3, true, "CSC01 CSL01 CSL02 notes.txt", false, false},
+      {-1, false, "CSL01 notes.txt", false, true},
+  };
+  testing::TempStore store;
+  Database& db = store.Open();
+  db.Exec("INSERT INTO QOR_EMPLOYERS (id, CreateFlDate) VALUES (1, '05/03/2002')");
+  const QString fresh = store.Dir() + u"/fresh"_s;
+  ASSERT_TRUE(QDir().mkdir(fresh));
+  {
+    VolumeFiles files(fresh);
+    VolumeWriter(db, Kind::Common, 1).Write(files);
+  }
+  const QByteArray written = testing::FileBytes(fresh + u"/CSL01"_s);
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.step);
+    const QString dir =
+        store.Dir() + u"/out"_s + QString::number(c.step) + (c.fails ? u"f"_s : u""_s);
+    ASSERT_TRUE(QDir().mkdir(dir));
+    for (const QString& name : old) Write(dir + u'/' + name, name.toLatin1());
+    VolumeFiles files(dir, old.first(3));
+    files.before_step = [&](int step) {
+      if (step == c.step && c.fails) throw FileError{EIO, u"stopped"_s};
+      if (step == c.step) throw std::runtime_error("killed");
+    };
+    try {
+      VolumeWriter(db, Kind::Common, 1).Write(files);
+      EXPECT_EQ(c.step, -1);
+    } catch (const std::runtime_error&) {
+    } catch (const FileError&) {
+      EXPECT_TRUE(c.fails);
+    }
+    EXPECT_EQ(QDir(dir).entryList(QDir::Files).join(u' '), QLatin1StringView(c.left));
+    const VolumeCheck check = VerifyVolumes(dir);
+    EXPECT_EQ(check.findings.size() == 1 && check.findings[0].fault == kUnfinished, c.refused);
+    EXPECT_EQ(check.AllHold(), c.step < 0);
+    FinishUnfinishedWrites(dir);
+    const QStringList now =
+        QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    if (c.is_new) {
+      EXPECT_EQ(now, (QStringList{u"CSL01"_s, u"notes.txt"_s}));
+      EXPECT_EQ(testing::FileBytes(dir + u"/CSL01"_s), written);
+      EXPECT_TRUE(VerifyVolumes(dir).AllHold());
+    } else {
+      EXPECT_EQ(now, old);
+      for (const QString& name : old)
+        EXPECT_EQ(testing::FileBytes(dir + u'/' + name), name.toLatin1());
+    }
+  }
+}
+
 }  // namespace
 }  // namespace veroxia
