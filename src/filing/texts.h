@@ -38,6 +38,31 @@ inline const QString kOldVolumesQuestion = u"Θέλετε να δημιουργ�
 // A directory holding a write cut short (the program ended while it wrote
 // or put the volumes in place).
 inline const QString kUnfinishedWrite = u"Η δημιουργία του αρχείου Ξ.Ρ.Φ. σε αυτόν τον κατάλογο διακόπηκε πριν τελειώσει, και οι τόμοι του μπορεί να είναι μισοί ή ανάμεικτοι. Δημιουργήστε ξανά το αρχείο στον ίδιο κατάλογο."_s;
+// The volumes' header against the stored declaration's: a heading row, the
+// fields (each followed by its box), the verdict of each and the note of a
+// field that differs.
+inline const QString kHeaderHeading = u"ΕΠΙΚΕΦΑΛΙΔΑ"_s;
+inline const QString kInVolumes = u"ΣΤΟΥΣ ΤΟΜΟΥΣ"_s;
+inline const QString kInDeclaration = u"ΣΤΗ ΔΗΛΩΣΗ"_s;
+inline const QString kFieldAgrees = u"ΣΥΜΦΩΝΕΙ"_s;
+inline const QString kFieldDiffers = u"ΔΙΑΦΕΡΕΙ"_s;
+inline const QString kHeaderFieldDiffers = u"Η επικεφαλίδα των τόμων διαφέρει από τη δήλωση στο πεδίο %1."_s;
+inline const QString kFieldType = u"ΤΥΠΟΣ ΔΗΛΩΣΗΣ"_s;
+inline const QString kFieldBranch = u"ΚΩΔΙΚΟΣ ΥΠΟΚ/ΤΟΣ ΟΒΤ"_s;
+inline const QString kFieldAme = u"Α.Μ.Ε."_s;
+inline const QString kFieldAmoe = u"Α.Μ.Ο.Ε."_s;
+inline const QString kFieldAfm = u"Α.Φ.Μ."_s;
+inline const QString kFieldFromMonth = u"ΑΠΟ ΜΗΝΑ"_s;
+inline const QString kFieldFromYear = u"ΑΠΟ ΕΤΟΣ"_s;
+inline const QString kFieldToMonth = u"ΕΩΣ ΜΗΝΑ"_s;
+inline const QString kFieldToYear = u"ΕΩΣ ΕΤΟΣ"_s;
+inline const QString kFieldMonth = u"ΜΗΝΑΣ"_s;
+inline const QString kFieldYear = u"ΕΤΟΣ"_s;
+inline const QString kFieldDays = u"ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΣΦΑΛΙΣΗΣ"_s;
+inline const QString kFieldWorkDays = u"ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ"_s;
+inline const QString kFieldWages = u"ΣΥΝΟΛΟ ΑΠΟΔΟΧΩΝ"_s;
+inline const QString kFieldPaid = u"ΣΥΝΟΛΟ ΚΑΤΑΒΛ. ΕΙΣΦΟΡΩΝ"_s;
+inline const QString kFieldContributions = u"ΣΥΝΟΛΟ ΕΙΣΦΟΡΩΝ"_s;
 // clang-format on
 
 }  // namespace veroxia::filing_texts

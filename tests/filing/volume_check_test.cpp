@@ -65,10 +65,10 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     EXPECT_EQ(check.volumes.size(), static_cast<size_t>(c.volumes));
     EXPECT_EQ(check.lines, c.lines);
     EXPECT_EQ(check.persons, c.persons);
-    // A heading, a line per volume, the totals, the declaration's counts and
-    // the verdict.
+    // A heading, a line per volume, the totals, the declaration's counts, a
+    // heading and a line per header field, and the verdict.
     const QStringList text = ReportText(VolumeCheckWindow(check));
-    EXPECT_EQ(text.size(), c.volumes + 4);
+    EXPECT_EQ(text.size(), c.volumes + 5 + static_cast<int>(expected->header.size()));
     EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
   }
 }
@@ -214,7 +214,7 @@ TEST_F(BrokenVolumes, CountsAgainstTheStore) {
   EXPECT_EQ(check.findings[0].wanted, 15'001);
   EXPECT_EQ(check.findings[1].fault, kPersonCount);
   EXPECT_EQ(check.findings[1].wanted, 4'001);
-  EXPECT_EQ(VerifyVolumes(written(), VolumeCounts{Kind::Construction, 4'000, 15'000})
+  EXPECT_EQ(VerifyVolumes(written(), VolumeCounts{Kind::Construction, 4'000, 15'000, {}})
                 .findings.at(0)
                 .fault,
             kOtherKind);
@@ -289,6 +289,76 @@ TEST(VolumeFilesPutInPlace, StoppedAtEachStep) {
       for (const QString& name : old)
         EXPECT_EQ(testing::FileBytes(dir + u'/' + name), name.toLatin1());
     }
+  }
+}
+
+// The header of the volumes against the stored declaration's, field by
+// field as the writer writes it: a value stored in another form agrees, a
+// changed one is a row that does not hold and a note naming the field.
+TEST(VolumeCheck, HeaderFieldsAgainstTheStore) {
+  const struct {
+    Kind kind;
+    const char* column;
+    const char* value;   // stored after the volumes were written
+    const char* held;    // in the volumes
+    const char* stored;  // as the writer would write it
+    const char* label;   // of the field that differs; none: all agree
+  } cases[] = {
+      {Kind::Common, "total_salaries", "1.234,50", "000000123450", "000000123450", nullptr},
+      {Kind::Common, "total_salaries", "1234,51", "000000123450", "000000123451",
+       "ΣΥΝΟΛΟ ΑΠΟΔΟΧΩΝ (15)"},
+      {Kind::Common, "to_month", "2", "03", "02", "ΕΩΣ ΜΗΝΑ (12)"},
+      {Kind::Common, "emp_employer_id", "1234568", "0001234567", "0001234568", "Α.Μ.Ε. (5)"},
+      {Kind::Construction, "amoe", "", "0000000077", "0000000000", "Α.Μ.Ο.Ε. (11)"},
+      {Kind::Construction, "sum_days", "26", "00000025", "00000026",
+       "ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ (19)"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.column);
+    testing::TempStore store;
+    Database& db = store.Open();
+    db.Exec(c.kind == Kind::Common
+                ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, to_month, total_salaries, "
+                  "emp_employer_id) VALUES (1, '05/03/2002', '03', '1234,5', '1234567')"
+                : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, amoe, sum_days) "
+                  "VALUES (1, '05/03/2002', '77', '25')");
+    {
+      VolumeFiles files(store.Dir());
+      VolumeWriter(db, c.kind, 1).Write(files);
+    }
+    db.Exec(std::string("UPDATE ") +
+            (c.kind == Kind::Common ? "QOR_EMPLOYERS" : "QOR_CON_EMPLOYERS") + " SET " + c.column +
+            " = '" + c.value + "'");
+    const std::optional<VolumeCounts> expected = ExpectedCounts(db, c.kind, 1);
+    ASSERT_TRUE(expected);
+    EXPECT_EQ(expected->header.size(), c.kind == Kind::Common ? 11u : 10u);
+    const VolumeCheck check = VerifyVolumes(store.Dir(), expected);
+    const Report report = VolumeCheckWindow(check);
+    ASSERT_EQ(check.findings.size(), c.label ? 1u : 0u);
+    // The field's row: in the volumes, as stored, and whether they agree.
+    const auto row = std::find_if(report.rows.begin(), report.rows.end(), [&](const ReportRow& r) {
+      return r.cells.value(1) == QLatin1StringView(c.held) &&
+             r.cells.value(2) == QLatin1StringView(c.stored);
+    });
+    ASSERT_NE(row, report.rows.end());
+    EXPECT_EQ(row->holds, !c.label);
+    EXPECT_EQ(row->cells.last(), c.label ? u"ΔΙΑΦΕΡΕΙ"_s : u"ΣΥΜΦΩΝΕΙ"_s);
+    if (c.label) {
+      EXPECT_EQ(row->cells.first(), QString::fromUtf8(c.label));
+      EXPECT_EQ(check.findings[0].fault, kHeaderField);
+      EXPECT_TRUE(report.notes.join(u'\n').contains(QString::fromUtf8(c.label)));
+    }
+    // The window offers the report under the declaration's name.
+    testing::FakeDialogs dialogs;
+    dialogs.directories.push_back(store.Dir());
+    store.vars.DeclarationId = 1;
+    store.vars.PeriodFrom = u"012002"_s;
+    store.vars.PeriodTo = c.kind == Kind::Common ? u"032002"_s : QString();
+    CheckVolumes(store.vars, dialogs, c.kind);
+    ASSERT_EQ(dialogs.reports.size(), 1u);
+    EXPECT_EQ(dialogs.reports[0].file_name, c.kind == Kind::Common
+                                                ? u"OVT-common-1-2002-01_2002-03.txt"_s
+                                                : u"OVT-construction-1-2002-01.txt"_s);
   }
 }
 
