@@ -37,7 +37,7 @@ inline const QString kOldVolumesOtherKind = u"%1 (του άλλου είδους
 inline const QString kOldVolumesQuestion = u"Θέλετε να δημιουργηθεί το αρχείο;"_s;
 // A directory holding a write cut short (the program ended while it wrote
 // or put the volumes in place).
-inline const QString kUnfinishedWrite = u"Η δημιουργία του αρχείου Ξ.Ρ.Φ. σε αυτόν τον κατάλογο διακόπηκε πριν τελειώσει, και οι τόμοι του μπορεί να είναι μισοί ή ανάμεικτοι. Δημιουργήστε ξανά το αρχείο στον ίδιο κατάλογο."_s;
+inline const QString kUnfinishedWrite = u"Η δημιουργία του αρχείου Ξ.Ρ.Φ. σε αυτόν τον κατάλογο διακόπηκε. Δημιουργήστε ξανά το αρχείο."_s;
 // The volumes' header against the stored declaration's: a heading row, the
 // fields (each followed by its box), the verdict of each and the note of a
 // field that differs.
