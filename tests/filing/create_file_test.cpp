@@ -131,31 +131,29 @@ TEST(CreateFile, TotalsThatDoNotAgreeAskFirst) {
 // The volumes of an earlier run in the directory, of the kind and of the
 // other kind, are named in one question before anything is written: No keeps
 // them and tells nothing more, Yes leaves the new set in their place beside
-// the other files. A write cut short there is finished first (here it takes
-// CSL03 away).
+// the other files. A write cut short there (taking CSL03 away) is finished
+// first.
 TEST(CreateFile, OldVolumesAreNamedFirst) {
   const struct {
     Kind kind;
     const char* before;  // the files in the directory
     bool unfinished;
     bool yes;
-    const char* replaced;  // named in the question; none: no question
-    const char* other;     // of the other kind named in it
+    const char* named;  // of the kind, then of the other kind; none: no question
     const char* after;
   } cases[] = {
       // clang-format off
-      {Kind::Common, "CSC01 CSL01 CSL02 CSL03 CSL1 notes.txt", true, false, "CSL01, CSL02", "CSC01", "CSC01 CSL01 CSL02 CSL1 notes.txt"},
-      {Kind::Common, "CSC01 CSL01 CSL02 CSL1 notes.txt", false, true, "CSL01, CSL02", "CSC01", "CSL01 CSL1 notes.txt"},
-      {Kind::Construction, "CSC02 CSL01", false, true, "CSC02", "CSL01", "CSC01"},
-      {Kind::Common, "notes.txt", false, true, nullptr, nullptr, "CSL01 notes.txt"},
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL03 CSL1 x", true, false, "CSL01, CSL02|CSC01", "CSC01 CSL01 CSL02 CSL1 x"},
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL1 x", false, true, "CSL01, CSL02|CSC01", "CSL01 CSL1 x"},
+      {Kind::Construction, "CSC02 CSL01", false, true, "CSC02|CSL01", "CSC01"},
+      {Kind::Common, "x", false, true, nullptr, "CSL01 x"},
       // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.before);
     testing::TempStore store;
     Database& db = store.Open();
-    // Totals that do not agree: asked about first.
-    db.Exec(
+    db.Exec(  // totals that do not agree: asked about first
         "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days) VALUES (1, '05/03/2002', '1');"
         "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, sum_days) VALUES (1, '05/03/2002', '1')");
     const QString out = store.Dir() + u"/out"_s;
@@ -165,9 +163,7 @@ TEST(CreateFile, OldVolumesAreNamedFirst) {
     }
     if (c.unfinished) {
       VolumeFiles files(out, {u"CSL03"_s});
-      files.before_step = [](int step) {
-        if (step == 1) throw step;
-      };
+      files.before_step = [](int step) { step == 1 ? throw step : void(); };
       EXPECT_THROW(VolumeWriter(db, Kind::Common, 1).Write(files), int);
     }
     testing::FakeDialogs dialogs;
@@ -176,13 +172,13 @@ TEST(CreateFile, OldVolumesAreNamedFirst) {
     store.vars.DeclarationId = 1;
     EXPECT_EQ(CreateFile(store.vars, dialogs, c.kind),
               c.yes ? FileOutcome::kWritten : FileOutcome::kCancelled);
-    ASSERT_EQ(dialogs.questions.size(), c.replaced ? 2u : 1u);
-    if (c.replaced) {
+    ASSERT_EQ(dialogs.questions.size(), c.named ? 2u : 1u);
+    if (c.named) {
+      const QStringList named = QString::fromLatin1(c.named).split(u'|');
       EXPECT_EQ(dialogs.questions[1].text,
-                kOldVolumes.arg(out) + u"\r\n"_s +
-                    kOldVolumesReplaced.arg(QLatin1StringView(c.replaced)) + u"\r\n"_s +
-                    kOldVolumesOtherKind.arg(QLatin1StringView(c.other)) + u"\r\n"_s +
-                    kOldVolumesQuestion);
+                QStringList({kOldVolumes.arg(out), kOldVolumesReplaced.arg(named[0]),
+                             kOldVolumesOtherKind.arg(named[1]), kOldVolumesQuestion})
+                    .join(u"\r\n"_s));
     }
     EXPECT_EQ(dialogs.messages.size(), c.yes ? 1u : 0u);
     EXPECT_EQ(
