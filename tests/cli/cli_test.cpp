@@ -165,6 +165,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       // clang-format off
       {{u"list"_s, u"--store"_s, path}, 0, u"common\t3\t01/2002-03/2002\t01\t2\nconstruction\t4\t07/2004\t\t0\n"_s, {}},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out}, 0, {}, kWrittenIn + out + u"'.\n"_s},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out}, 0, {}, kOldVolumes.arg(out) + u'\n' + kOldVolumesReplaced.arg(u"CSL01"_s) + u'\n' + kOldVolumesQuestion + u'\n' + kWrittenIn + out + u"'.\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"construction"_s, u"4"_s, out}, 1, {}, kNoDateLine1 + u'\n' + kNoDateLine2 + u'\n'},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"1"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},

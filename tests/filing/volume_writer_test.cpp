@@ -38,7 +38,7 @@ struct MemoryVolumes : VolumeSink {
   void Begin(const QString& name) override { volumes.push_back({name, {}}); }
   void Write(const QByteArray& bytes) override { volumes.back().second += bytes; }
   void Finish() override { finished = true; }
-  void Abandon(bool) override {}
+  void Abandon() override {}
   // The records of a volume, each ended by CR LF, without it.
   QList<QByteArray> Records(size_t volume) const {
     QList<QByteArray> records = volumes.at(volume).second.split('\n');
