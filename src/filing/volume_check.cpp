@@ -11,6 +11,7 @@
 #include "filing/texts.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
+#include "rules/texts.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
@@ -409,7 +410,7 @@ std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id) {
       const QString held = FormatField(id_field, text);
       if (!top || held != last_id) ++counts.persons;
       last_id = held;
-      const QString trimmed = text.trimmed();
+      const QString trimmed = TrimBlanks(text);
       open = trimmed.isEmpty() ? std::nullopt : std::optional(trimmed.toUtf8());
       bytes += layout.person_bytes;
     }
