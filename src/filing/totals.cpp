@@ -85,15 +85,8 @@ QString MonthOf(const Text& month, const Text& year) {
   return ok ? QString::number(number).rightJustified(2, u'0') + u'/' + FieldText(year) : QString();
 }
 
-// A month of a year as one number (March 2002 gives 200203); nothing when
-// the texts are no month and year.
 std::optional<int> MonthNumber(const Text& month, const Text& year) {
-  bool month_ok = false;
-  bool year_ok = false;
-  const int m = FieldText(month).toInt(&month_ok);
-  const int y = FieldText(year).toInt(&year_ok);
-  if (!month_ok || !year_ok || m < 1 || m > 12 || y < 0) return std::nullopt;
-  return y * 100 + m;
+  return MonthIndex(FieldText(month), FieldText(year));
 }
 
 QString MonthText(const Text& month, const Text& year) {

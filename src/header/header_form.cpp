@@ -297,10 +297,13 @@ bool HeaderForm::QueryClose() {
 }
 
 void HeaderForm::SaveCmd_Click() {
-  if (vars_.CarryOver) CarryOverLines(vars_, dialogs_, layout_.kind);
   if (vars_.CarryOver) {
+    CarryOverLines(vars_, dialogs_, layout_.kind);
     // Taken over from the previous declaration and locked: stored unchecked.
     SaveData();
+    // Stored and shown in the view state: the copied lines may now take the
+    // new period.
+    if (!vars_.CarryOver) OfferPayrollMove(vars_, dialogs_, layout_.kind);
   } else if (ValidateHeader() && ConfirmCheckDigits(*this, dialogs_, layout_.fields)) {
     SaveData();
   }

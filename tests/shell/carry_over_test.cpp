@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
+#include "header/ovt_form1.h"
+#include "header/texts.h"
 #include "shell/carry_over.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
@@ -111,6 +113,122 @@ TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {
   db_.Exec("DROP TRIGGER fail");
   dialogs_.messages.clear();
   ExpectCopied(Kind::Common, 3);
+}
+
+// The previous header of the period ("MMYYYY-MMYYYY"), the new period, and
+// lines of the new declaration with these payroll months ("month/year").
+class PayrollMove : public CarryOver {
+ protected:
+  void Prepare(const char* previous, const char* current, const QStringList& months) {
+    db_.Exec("DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES");
+    const QString p = QString::fromLatin1(previous);
+    InsertRow(db_, testing::SampleHeader<EmployerRow>(
+                       kPrevious, {p.left(2), p.mid(2, 4), p.mid(7, 2), p.right(4)}));
+    const QString c = QString::fromLatin1(current);
+    store_.vars.PeriodFrom = c.left(6);
+    store_.vars.PeriodTo = c.right(6);
+    for (int i = 0; i < months.size(); ++i) {
+      auto line = SampleLine<EmployeeRow>(kNew, i + 1, QString::number(i + 1));
+      line.sal_month = months[i].section(u'/', 0, 0);
+      line.sal_year = months[i].section(u'/', 1);
+      InsertRow(db_, line);
+    }
+  }
+  QStringList Months() {
+    QStringList months;
+    for (const auto& line : LinesOf<EmployeeRow>(db_, kNew)) {
+      months << line.sal_month.value_or(u"-"_s) + u'/' + line.sal_year.value_or(u"-"_s);
+    }
+    return months;
+  }
+};
+
+// The k-th month of the previous period becomes the k-th of the new one (its
+// last when it is shorter); a month outside the previous period, or none,
+// stays; nothing is asked when nothing would change.
+TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
+  const struct {
+    const char* previous;
+    const char* current;
+    QStringList months;
+    bool yes;
+    QStringList after;  // empty: not asked
+  } cases[] = {
+      {"012026-032026",
+       "042026-062026",
+       {"01/2026", "02/2026", "03/2026", "12/2025", "/"},
+       true,
+       {"04/2026", "05/2026", "06/2026", "12/2025", "/"}},
+      {"012026-032026", "042026-062026", {"01/2026", "3/2026"}, false, {"01/2026", "3/2026"}},
+      {"032026-032026", "042026-042026", {"3/2026", "02/2026"}, true, {"04/2026", "02/2026"}},
+      {"102025-122025", "012026-012026", {"10/2025", "12/2025"}, true, {"01/2026", "01/2026"}},
+      {"122025-122025", "012026-032026", {"12/2025"}, true, {"01/2026"}},
+      {"012026-032026", "012026-032026", {"01/2026"}, true, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.current);
+    Prepare(c.previous, c.current, c.months);
+    dialogs_.questions.clear();
+    dialogs_.answers = {c.yes};
+    const int moved = OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
+    EXPECT_EQ(dialogs_.questions.size(), c.after.isEmpty() ? 0u : 1u);
+    EXPECT_EQ(Months(), c.after.isEmpty() ? c.months : c.after);
+    int changed = 0;
+    for (int i = 0; i < c.after.size(); ++i) changed += c.after[i] != c.months[i];
+    EXPECT_EQ(moved, c.yes ? changed : 0);
+  }
+  EXPECT_TRUE(dialogs_.messages.empty());
+  Prepare("012026-032026", "042026-062026", {"01/2026", "03/2026", "12/2025"});
+  OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
+  EXPECT_EQ(
+      dialogs_.questions.back().text,
+      texts::kPayrollMoveQuestion.arg(u"01/2026 έως 03/2026"_s, u"04/2026 έως 06/2026"_s) +
+          u"\r\n\r\n01/2026 σε 04/2026, γραμμές: 1\r\n03/2026 σε 06/2026, γραμμές: 1\r\n\r\n"_s +
+          texts::kPayrollMoveLeft.arg(1));
+}
+
+// A failure on the way leaves every line as copied and is told; the
+// construction kind, without payroll months, is never asked.
+TEST_F(PayrollMove, AllOrNothing) {
+  Prepare("012026-032026", "042026-062026", {"01/2026", "03/2026"});
+  EXPECT_EQ(OfferPayrollMove(store_.vars, dialogs_, Kind::Construction), 0);
+  EXPECT_TRUE(dialogs_.questions.empty());
+  db_.Exec(
+      "CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' "
+      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  dialogs_.answers = {true};
+  EXPECT_EQ(OfferPayrollMove(store_.vars, dialogs_, Kind::Common), 0);
+  EXPECT_EQ(Months(), (QStringList{u"01/2026"_s, u"03/2026"_s}));
+  EXPECT_FALSE(db_.InTransaction());
+  EXPECT_EQ(dialogs_.LastMessage(),
+            ErrorMessage(texts::kPayrollMoveFailed, {SQLITE_CONSTRAINT, u"injected"_s}));
+}
+
+// The header save asks once the header is stored and shown in the view
+// state, after the message that says so.
+TEST_F(PayrollMove, TheHeaderSaveAsksAfterItsMessage) {
+  struct Watching : testing::FakeDialogs {
+    std::function<void()> asked;
+    bool Ask(const QString& text, const QString& title, AskStyle style) override {
+      asked();
+      return FakeDialogs::Ask(text, title, style);
+    }
+  } dialogs;
+  Prepare("012026-032026", "042026-062026", {});
+  InsertRow(db_, SampleLine<EmployeeRow>(kPrevious, 1, u"1"_s));
+  db_.Exec("UPDATE QOR_EMPLOYEES SET sal_month = '02', sal_year = '2026'");
+  store_.vars.CarryOver = true;
+  testing::FakeScreens screens;
+  OvtForm1 form(store_.vars, dialogs, screens);
+  form.Load();
+  dialogs.answers = {true};
+  dialogs.asked = [&] {
+    EXPECT_EQ(dialogs.LastMessage(), header_texts::kSaveDone);
+    EXPECT_TRUE(form.At(u"UpDateCmd"_s).visible && !dialogs.busy);
+  };
+  form.SaveCmd_Click();
+  EXPECT_EQ(dialogs.questions.size(), 1u);
+  EXPECT_EQ(Months(), QStringList{u"05/2026"_s});
 }
 
 }  // namespace
