@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -38,16 +39,19 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   EXPECT_TRUE(table->item(1, 1)->font().bold());
   EXPECT_NE(table->item(0, 1)->foreground(), table->item(1, 1)->foreground());
 
-  auto* notes = window->findChild<QPlainTextEdit*>(u"ReportNotes"_s);
+  auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
   ASSERT_NE(notes, nullptr);
-  EXPECT_EQ(notes->toPlainText(), report.notes.join(u'\n'));
-  EXPECT_EQ(notes->horizontalScrollBar()->maximum(), 0);  // the longest note reads whole
+  ASSERT_EQ(notes->count(), 2);
+  EXPECT_EQ(notes->item(0)->text(), report.notes[0]);
+  // The longest note reads whole, on one line.
+  EXPECT_LE(notes->visualItemRect(notes->item(0)).right(), notes->viewport()->width());
+  EXPECT_LT(notes->visualItemRect(notes->item(0)).height(), 2 * notes->fontMetrics().lineSpacing());
   EXPECT_EQ(window->findChild<QLabel*>(u"ReportVerdict"_s)->text(), report.verdict);
 
   // Nothing to note: no notes box.
   report.notes.clear();
   const std::unique_ptr<QDialog> clean(MakeReportWindow(nullptr, report));
-  EXPECT_EQ(clean->findChild<QPlainTextEdit*>(u"ReportNotes"_s), nullptr);
+  EXPECT_EQ(clean->findChild<QListWidget*>(u"ReportNotes"_s), nullptr);
   EXPECT_NE(clean->findChild<QPushButton*>(u"SaveCmd"_s), nullptr);
 
   // A window that asks to go on: its button accepts, the other is "Άκυρο".
@@ -57,6 +61,26 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   EXPECT_EQ(asking->findChild<QPushButton*>(u"CloseCmd"_s)->text(), texts::kCancelCmd);
   asking->findChild<QPushButton*>(u"GoOnCmd"_s)->click();
   EXPECT_EQ(asking->result(), QDialog::Accepted);
+}
+
+// The user sizes the window: the list of notes grows with it, and a note
+// wider than the screen wraps instead of being cut.
+TEST(ReportWindowTest, TheNotesGrowWithTheWindow) {
+  Report report;
+  report.columns = {u"ΣΤΟΙΧΕΙΟ"_s};
+  for (int i = 1; i <= 40; ++i) report.notes << u"Η γραμμή %1 έχει σημείωση."_s.arg(i);
+  report.notes << u"μακριά σημείωση "_s.repeated(40);
+  const std::unique_ptr<QDialog> window(MakeReportWindow(nullptr, report));
+  window->show();
+  EXPECT_TRUE(window->isSizeGripEnabled());
+  auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
+  const int before = notes->height();
+  window->resize(window->width(), window->height() + 300);
+  QCoreApplication::processEvents();
+  EXPECT_GT(notes->height(), before + 100);
+  const QRect longest = notes->visualItemRect(notes->item(40));
+  EXPECT_LE(longest.right(), notes->viewport()->width());
+  EXPECT_GT(longest.height(), 2 * notes->fontMetrics().lineSpacing());
 }
 
 }  // namespace
