@@ -81,8 +81,8 @@ struct Move {
 
 }  // namespace
 
-int OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind) {
-  if (kind != Kind::Common) return 0;
+void OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind) {
+  if (kind != Kind::Common) return;
   Database& db = *vars.StoreConnection;
   const std::optional<Span> current = SpanOf(vars.PeriodFrom.left(2), vars.PeriodFrom.right(4),
                                              vars.PeriodTo.left(2), vars.PeriodTo.right(4));
@@ -94,7 +94,7 @@ int OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind) {
     if (previous && current) months = PayrollMonths(db, vars.DeclarationId);
   } catch (const StoreError& error) {
     dialogs.Message(ErrorMessage(texts::kPayrollMoveFailed, error), texts::kAppTitle);
-    return 0;
+    return;
   }
   std::vector<Move> moves;
   std::map<std::pair<int, int>, int> shown;  // lines by month and the month it takes
@@ -110,7 +110,7 @@ int OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind) {
     moves.push_back({month, to});
     shown[{*index, to}] += month.lines;
   }
-  if (moves.empty()) return 0;
+  if (moves.empty()) return;
 
   QString question = texts::kPayrollMoveQuestion.arg(PeriodText(*previous), PeriodText(*current));
   question += u"\r\n"_s;
@@ -120,22 +120,17 @@ int OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind) {
                     .arg(lines);
   }
   if (left > 0) question += u"\r\n\r\n"_s + texts::kPayrollMoveLeft.arg(left);
-  if (!dialogs.Ask(question, texts::kAppTitle, AskStyle::Question)) return 0;
-
-  int moved = 0;
+  if (!dialogs.Ask(question, texts::kAppTitle, AskStyle::Question)) return;
   try {
     BusyPointer busy(dialogs);
     Transaction transaction(db);
     for (const Move& move : moves) {
-      moved +=
-          SetPayrollMonth(db, vars.DeclarationId, move.from, MonthOf(move.to), YearOf(move.to));
+      SetPayrollMonth(db, vars.DeclarationId, move.from, MonthOf(move.to), YearOf(move.to));
     }
     transaction.Commit();
   } catch (const StoreError& error) {
     dialogs.Message(ErrorMessage(texts::kPayrollMoveFailed, error), texts::kAppTitle);
-    return 0;
   }
-  return moved;
 }
 
 }  // namespace veroxia

@@ -29,7 +29,6 @@ CarryOverOutcome CarryOverLines(Vars& vars, Dialogs& dialogs, Kind kind);
 // totals report names it. Asked only when some line would change; Yes moves
 // them all in one transaction, and a failure is told and leaves them as they
 // were. The construction kind has no payroll month: nothing is offered.
-// Answers the number of lines moved.
-int OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind);
+void OfferPayrollMove(Vars& vars, Dialogs& dialogs, Kind kind);
 
 }  // namespace veroxia

@@ -28,11 +28,12 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   testing::TempStore store;
   Database& db = store.Open();
   db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, saldate1, saldate2, saldate3, total_days1, "
-      "total_days2, "
+      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, from_month, from_year, to_month, to_year, "
+      "saldate1, saldate2, saldate3, total_days1, total_days2, "
       "total_days3, total_days, total_salaries1, total_salaries2, total_salaries3, "
       "total_salaries, total_contributions1, total_contributions2, total_contributions3, "
-      "total_contributions) VALUES (1, '123456789', '01/2026', '02/2026', '03/2026', '26', '20', "
+      "total_contributions) VALUES (1, '123456789', '01', '2026', '03', '2026', '01/2026', "
+      "'02/2026', '03/2026', '26', '20', "
       "'0', '55', "
       "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');"
       "INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year, insurance_days, salary, "
@@ -67,8 +68,26 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   EXPECT_EQ(report->check_digits[1].column, u"amka"_s);
   EXPECT_EQ(report->check_digits[2].text, u"090000044"_s);
   EXPECT_FALSE(report->AllAgree());
-  const Report shown = TotalsWindow(*report, BoxCaptionsOf(Kind::Common));
-  EXPECT_EQ(ReportText(shown).size(), 1 + 12 + 2 + 3 + 1);
+  // The notes name the boxes, in the order of the lines; line 3's payroll
+  // month lies outside the period. The report is offered under the
+  // declaration's name.
+  store.vars.DeclarationId = 1;
+  store.vars.PeriodFrom = u"012026"_s;
+  store.vars.PeriodTo = u"032026"_s;
+  testing::FakeDialogs dialogs;
+  ShowTotals(store.vars, dialogs, Kind::Common, BoxCaptionsOf(Kind::Common));
+  const Report& shown = dialogs.reports.at(0);
+  QStringList boxes;  // each note up to its box
+  for (const QString& note : shown.notes) boxes << note.section(u'\'', 0, 1);
+  EXPECT_EQ(boxes, (QStringList{u"Η επικεφαλίδα έχει στο πεδίο 'Α.Φ.Μ. (6)"_s,
+                                u"Η γραμμή 1 έχει στο πεδίο 'Α.Μ.Κ.Α (20)"_s,
+                                u"Η γραμμή 2 έχει στο πεδίο 'Α.Φ.Μ. (26)"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΜΙΣΘΟΛ. ΠΕΡΙΟΔΟΣ (33) MM/EEEE"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΑΠΟΔΟΧΕΣ (39)"_s,
+                                u"Η γραμμή 4 έχει στο πεδίο 'ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ (46)"_s}));
+  EXPECT_TRUE(shown.notes[3].endsWith(
+      u"'12/2025', έξω από την περίοδο της δήλωσης (01/2026 έως 03/2026)."_s));
+  EXPECT_EQ(shown.file_name, u"OVT-common-1-2026-01_2026-03.txt"_s);
   EXPECT_FALSE(shown.rows.back().holds);
   EXPECT_EQ(shown.verdict, kTotalsDisagree);
 }
@@ -87,47 +106,6 @@ TEST(Totals, ConstructionOfOneMonth) {
                                         u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.882,00 | 2.882,00 | 0,00 | ="_s,
                                         u"ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | y | 1.301,72 |  | ≠"_s}));
   EXPECT_FALSE(CompareTotals(db, Kind::Construction, 2));
-}
-
-// April to June: a line of another month, or of none, is named with the line
-// screen's caption of the payroll month; the notes follow the line numbers,
-// the header's first, and the report is offered under the declaration's name.
-TEST(Totals, LinesOutsideThePeriodAndNotesInLineOrder) {
-  testing::TempStore store;
-  Database& db = store.Open();
-  db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, from_month, from_year, to_month, to_year, "
-      "saldate1, saldate2, saldate3, total_days) VALUES (7, '123456789', '04', '2026', '06', "
-      "'2026', '04/2026', '05/2026', '06/2026', '6');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, sal_month, sal_year, insurance_days, "
-      "salary, payed_contr) VALUES (7, 1, '1', '03', '2026', '1', '1', '1'), "
-      "(7, 2, '2', '4', '2026', '1', '1', '1'), (7, 3, '3', '06', '2026', '1', 'x', '1'), "
-      "(7, 4, '4', '07', '2026', '1', '1', '1'), (7, 5, '5', '13', '2025', '1', '1', '1'), "
-      "(7, 6, '0', NULL, NULL, '1', '1', '1')");
-  store.vars.DeclarationId = 7;
-  store.vars.PeriodFrom = u"042026"_s;
-  store.vars.PeriodTo = u"062026"_s;
-  testing::FakeDialogs dialogs;
-  ShowTotals(store.vars, dialogs, Kind::Common, BoxCaptionsOf(Kind::Common));
-  ASSERT_EQ(dialogs.reports.size(), 1u);
-  const Report& shown = dialogs.reports[0];
-  const auto outside = [](int line, const QString& month) {
-    return u"Η γραμμή %1 έχει στο πεδίο 'ΜΙΣΘΟΛ. ΠΕΡΙΟΔΟΣ (33) MM/EEEE' τον μήνα '%2', έξω από την περίοδο της δήλωσης (04/2026 έως 06/2026)."_s
-        .arg(line)
-        .arg(month);
-  };
-  EXPECT_EQ(
-      shown.notes,
-      (QStringList{
-          u"Η επικεφαλίδα έχει στο πεδίο 'Α.Φ.Μ. (6)' τον αριθμό '123456789', που δεν έχει σωστό ψηφίο ελέγχου."_s,
-          outside(1, u"03/2026"_s),
-          u"Η γραμμή 3 έχει στο πεδίο 'ΑΠΟΔΟΧΕΣ (39)' την τιμή 'x', που δεν είναι αριθμός."_s,
-          outside(4, u"07/2026"_s), outside(5, u"13/2025"_s), outside(6, {})}));
-  // They count where they counted: in the whole only.
-  EXPECT_EQ(shown.rows[0].cells[2], u"1"_s);
-  EXPECT_EQ(shown.rows[9].cells.mid(1, 2), (QStringList{u"6"_s, u"6"_s}));
-  EXPECT_EQ(shown.verdict, kTotalsDisagree);
-  EXPECT_EQ(shown.file_name, u"OVT-common-7-2026-04_2026-06.txt"_s);
 }
 
 }  // namespace

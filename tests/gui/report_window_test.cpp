@@ -25,7 +25,7 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   report.columns = {u"ΣΤΟΙΧΕΙΟ"_s, u"ΤΙΜΗ"_s};
   report.rows = {{{u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ"_s, u"1.234.567,89"_s}, true},
                  {{u"ΑΠΟΔΟΧΕΣ"_s, u"-75"_s}, false}};
-  report.notes = {QString(60, u'Ω'), u"δεύτερη"_s};
+  report.notes = {QString(60, u'Ω'), u"δεύτερη"_s, u"μακριά σημείωση "_s.repeated(40)};
   report.verdict = u"ΠΡΟΣΟΧΗ!! Διαφέρει."_s;
   const std::unique_ptr<QDialog> window(MakeReportWindow(nullptr, report));
   window->show();
@@ -41,11 +41,20 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
 
   auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
   ASSERT_NE(notes, nullptr);
-  ASSERT_EQ(notes->count(), 2);
+  ASSERT_EQ(notes->count(), 3);
   EXPECT_EQ(notes->item(0)->text(), report.notes[0]);
-  // The longest note reads whole, on one line.
+  // A long note reads whole on one line; one wider than the screen wraps.
+  const int line = notes->fontMetrics().lineSpacing();
   EXPECT_LE(notes->visualItemRect(notes->item(0)).right(), notes->viewport()->width());
-  EXPECT_LT(notes->visualItemRect(notes->item(0)).height(), 2 * notes->fontMetrics().lineSpacing());
+  EXPECT_LT(notes->visualItemRect(notes->item(0)).height(), 2 * line);
+  const QRect wide = notes->visualItemRect(notes->item(2));
+  EXPECT_TRUE(wide.right() <= notes->viewport()->width() && wide.height() > 2 * line);
+  // The user sizes the window, and the notes grow with it.
+  EXPECT_TRUE(window->isSizeGripEnabled());
+  const int height = notes->height();
+  window->resize(window->width(), window->height() + 300);
+  QCoreApplication::processEvents();
+  EXPECT_GT(notes->height(), height + 100);
   EXPECT_EQ(window->findChild<QLabel*>(u"ReportVerdict"_s)->text(), report.verdict);
 
   // Nothing to note: no notes box.
@@ -61,26 +70,6 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   EXPECT_EQ(asking->findChild<QPushButton*>(u"CloseCmd"_s)->text(), texts::kCancelCmd);
   asking->findChild<QPushButton*>(u"GoOnCmd"_s)->click();
   EXPECT_EQ(asking->result(), QDialog::Accepted);
-}
-
-// The user sizes the window: the list of notes grows with it, and a note
-// wider than the screen wraps instead of being cut.
-TEST(ReportWindowTest, TheNotesGrowWithTheWindow) {
-  Report report;
-  report.columns = {u"ΣΤΟΙΧΕΙΟ"_s};
-  for (int i = 1; i <= 40; ++i) report.notes << u"Η γραμμή %1 έχει σημείωση."_s.arg(i);
-  report.notes << u"μακριά σημείωση "_s.repeated(40);
-  const std::unique_ptr<QDialog> window(MakeReportWindow(nullptr, report));
-  window->show();
-  EXPECT_TRUE(window->isSizeGripEnabled());
-  auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
-  const int before = notes->height();
-  window->resize(window->width(), window->height() + 300);
-  QCoreApplication::processEvents();
-  EXPECT_GT(notes->height(), before + 100);
-  const QRect longest = notes->visualItemRect(notes->item(40));
-  EXPECT_LE(longest.right(), notes->viewport()->width());
-  EXPECT_GT(longest.height(), 2 * notes->fontMetrics().lineSpacing());
 }
 
 }  // namespace
