@@ -13,6 +13,7 @@
 #include "filing/volume_files.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
+#include "rules/texts.h"
 #include "shell/errors.h"
 #include "shell/file_names.h"
 #include "shell/texts.h"
@@ -447,7 +448,7 @@ std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id) {
       const QString held = FormatField(id_field, text);
       if (!top || held != last_id) ++counts.persons;
       last_id = held;
-      const QString trimmed = text.trimmed();
+      const QString trimmed = TrimBlanks(text);
       open = trimmed.isEmpty() ? std::nullopt : std::optional(trimmed.toUtf8());
       bytes += layout.person_bytes;
     }

@@ -52,6 +52,13 @@ inline const QString kNoPreviousDeclaration = u"ΠΡΟΣΟΧΗ!! Δεν βρέθ
 inline const QString kStoreMissing = u"ΠΡΟΣΟΧΗ!! Το αρχείο 'QorDb.mdb' δεν μπορεί να βρεθεί."_s;
 inline const QString kStoreCritical = u"Παρουσιάστηκε κρίσιμο λάθος εφαρμογής.Το πρόγραμμα θα κλείσει,παρακαλώ ξαναδοκιμάστε!! "_s;
 inline const QString kCarryOverFailed = u"Παρουσιάστηκε πρόβλημα στην μεταφόρα των εγγραφών."_s;
+// After the carry-over: the copied lines' payroll months may follow the new
+// period. The periods as "04/2002" or "04/2002 έως 06/2002".
+inline const QString kPayrollMoveQuestion = u"Οι γραμμές των εργαζομένων αντιγράφηκαν με τη μισθολογική περίοδο της προηγούμενης δήλωσης (%1). Να μεταφερθεί η μισθολογική περίοδός τους στη νέα περίοδο (%2);"_s;
+inline const QString kPayrollMoveMonth = u"%1 σε %2, γραμμές: %3"_s;
+inline const QString kPayrollMoveLeft = u"Μένουν όπως αντιγράφηκαν οι γραμμές με μισθολογική περίοδο έξω από την περίοδο της προηγούμενης δήλωσης, γραμμές: %1."_s;
+inline const QString kPayrollMoveFailed = u"ΠΡΟΣΟΧΗ!! Η μισθολογική περίοδος των γραμμών δεν άλλαξε. Οι γραμμές έμειναν όπως αντιγράφηκαν."_s;
+inline const QString kPeriodFromTo = u"%1 έως %2"_s;
 inline const QString kErrorCode = u"Κωδικός λάθους: "_s;
 inline const QString kErrorDescription = u"Περιγραφή λάθους: "_s;
 

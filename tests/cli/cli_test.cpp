@@ -135,8 +135,8 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year, sum_days, sum_salaries, "
       "sum_contr) VALUES (4, '07', '2004', '0', '0', '1');"
       "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days, insurance_days, "
-      "salary, payed_contr) VALUES (3, 1, '1', '1', '1', '25', '10,25', '0,5'), "
-      "(3, 2, '1', '0', '0', '25', '10,25', '0,5')");
+      "salary, payed_contr, sal_month, sal_year) VALUES (3, 1, '1', '1', '1', '25', '10,25', "
+      "'0,5', '01', '2002'), (3, 2, '1', '0', '0', '25', '10,25', '0,5', '03', '2002')");
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   const QString backup = MakeBackup(db, path, StorePassword(), QDateTime(QDate(2001, 2, 3), {}));
   store.vars.StoreConnection.reset();

@@ -98,6 +98,7 @@ TEST(VolumeFields, EachFormatAsTheFileHoldsIt) {
       {kDigits, 9, u" 12.345,6 "_s, u"000123456"_s}, {kDigits, 2, std::nullopt, u"00"_s},
       {kDigits, 2, u"123"_s, u"123"_s},
       {kText, 5, u" αβ "_s, u"αβ   "_s}, {kText, 3, std::nullopt, u"   "_s}, {kText, 2, u"abcd"_s, u"abcd"_s},
+      {kText, 5, u" \tαβ "_s, u"\tαβ  "_s}, {kText, 4, u" a\t "_s, u"a\t  "_s},
       {kDate, 8, u"05/03/2002"_s, u"05032002"_s}, {kDate, 8, u"5/3/2002"_s, u"00532002"_s},
       {kDate, 8, u"  "_s, u"        "_s}, {kDate, 8, std::nullopt, u"        "_s},
       {kAmka, 11, u" "_s, u"           "_s}, {kAmka, 11, std::nullopt, u"           "_s},
@@ -115,7 +116,7 @@ TEST(VolumeFields, EachFormatAsTheFileHoldsIt) {
 // Plain values are made straight from their bytes, exactly as the formats
 // make them.
 TEST(VolumeFields, PlainValuesAsTheFormatsMakeThem) {
-  const std::string alphabet = "0123456789,. -/+Ea";
+  const std::string alphabet = "0123456789,. -/+Ea\t";
   std::mt19937 random(7);
   int plain = 0;
   for (int i = 0; i < 20'000; ++i) {

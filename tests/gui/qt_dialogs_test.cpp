@@ -4,10 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QCursor>
 #include <QDialog>
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
@@ -31,7 +32,7 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   report.columns = {u"ΣΤΟΙΧΕΙΟ"_s, u"ΤΙΜΗ"_s};
   report.rows = {{{u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ"_s, u"1.234.567,89"_s}, true},
                  {{u"ΑΠΟΔΟΧΕΣ"_s, u"-75"_s}, false}};
-  report.notes = {QString(60, u'Ω'), u"δεύτερη"_s};
+  report.notes = {QString(60, u'Ω'), u"δεύτερη"_s, u"μακριά σημείωση "_s.repeated(40)};
   report.verdict = u"ΠΡΟΣΟΧΗ!! Διαφέρει."_s;
   const std::unique_ptr<QDialog> window(MakeReportWindow(nullptr, report));
   window->show();
@@ -45,16 +46,28 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   EXPECT_TRUE(table->item(1, 1)->font().bold());
   EXPECT_NE(table->item(0, 1)->foreground(), table->item(1, 1)->foreground());
 
-  auto* notes = window->findChild<QPlainTextEdit*>(u"ReportNotes"_s);
+  auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
   ASSERT_NE(notes, nullptr);
-  EXPECT_EQ(notes->toPlainText(), report.notes.join(u'\n'));
-  EXPECT_EQ(notes->horizontalScrollBar()->maximum(), 0);  // the longest note reads whole
+  ASSERT_EQ(notes->count(), 3);
+  EXPECT_EQ(notes->item(0)->text(), report.notes[0]);
+  // A long note reads whole on one line; one wider than the screen wraps.
+  const int line = notes->fontMetrics().lineSpacing();
+  EXPECT_LE(notes->visualItemRect(notes->item(0)).right(), notes->viewport()->width());
+  EXPECT_LT(notes->visualItemRect(notes->item(0)).height(), 2 * line);
+  const QRect wide = notes->visualItemRect(notes->item(2));
+  EXPECT_TRUE(wide.right() <= notes->viewport()->width() && wide.height() > 2 * line);
+  // The user sizes the window, and the notes grow with it.
+  EXPECT_TRUE(window->isSizeGripEnabled());
+  const int height = notes->height();
+  window->resize(window->width(), window->height() + 300);
+  QCoreApplication::processEvents();
+  EXPECT_GT(notes->height(), height + 100);
   EXPECT_EQ(window->findChild<QLabel*>(u"ReportVerdict"_s)->text(), report.verdict);
 
   // Nothing to note: no notes box.
   report.notes.clear();
   const std::unique_ptr<QDialog> clean(MakeReportWindow(nullptr, report));
-  EXPECT_EQ(clean->findChild<QPlainTextEdit*>(u"ReportNotes"_s), nullptr);
+  EXPECT_EQ(clean->findChild<QListWidget*>(u"ReportNotes"_s), nullptr);
   EXPECT_NE(clean->findChild<QPushButton*>(u"SaveCmd"_s), nullptr);
 
   // A window that asks to go on: its button accepts, the other is "Άκυρο".

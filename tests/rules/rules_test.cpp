@@ -227,5 +227,13 @@ TEST(Formats, LongTextsWrapAtALateBlank) {
   EXPECT_EQ(WrapText(solid, true), solid.left(45) + u"\r\n"_s + QString(17, u' ') + solid.mid(45));
 }
 
+// Stored values lose only the blanks at their ends: a tab or a no-break space
+// another program stored stays in the volumes and the printouts.
+TEST(Formats, OnlyBlanksAreTrimmed) {
+  EXPECT_EQ(FieldText(u" \tA\u00A0 "_s) + PadText(u" A\t "_s, 4, false), u"\tA\u00A0  A\t"_s);
+  EXPECT_EQ(DateDigits(u" \t5/3/2002 "_s) + AmountDigits(u" 1\t "_s, 4, true), u"0\t532002001\t"_s);
+  EXPECT_EQ(AmountText(u" x\t "_s, 4, false), u"  x\t"_s);
+}
+
 }  // namespace
 }  // namespace veroxia
