@@ -180,7 +180,7 @@ TEST(CreateFile, OldVolumesAreNamedFirst) {
         QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join(u' '),
         QLatin1StringView(c.after));
     const QString first = c.kind == Kind::Common ? u"CSL01"_s : u"CSC01"_s;
-    EXPECT_TRUE(Bytes(out + u'/' + first).startsWith("10101" + first.toLatin1()));
+    EXPECT_TRUE(testing::FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()));
   }
 }
 
