@@ -10,7 +10,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPrintDialog>
-#include <QProgressDialog>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -147,16 +146,6 @@ bool DrawOn(QPrinter& target, const DrawPrintout& draw) {
 }
 
 void ShowPrintPreview(QWidget* parent, Dialogs& dialogs, const PrintJob& job) {
-  // A failure told while the pages are composed or sent is told once their
-  // progress bar has gone, not under it.
-  const BeforeBoxOpens bar_away([] {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (auto* bar = qobject_cast<QProgressDialog*>(window)) {
-        bar->reset();  // nor shown later by its timer
-        bar->hide();
-      }
-    }
-  });
   PageFile pages;
   bool drawn = false;
   dialogs.RunWithProgress(pt::kComposing,

@@ -222,6 +222,7 @@ int QtDialogs::Choose(const QString& text, const QString& title, const QStringLi
 }
 
 SearchAnswer QtDialogs::AskInsuredPerson() {
+  BeforeBoxOpens::RunAll();
   if (unattended_) {
     Print(lines_texts::kSearchTitle, texts::kAppTitle);
     return {};
@@ -234,6 +235,7 @@ SearchAnswer QtDialogs::AskInsuredPerson() {
 }
 
 QString QtDialogs::AskDirectory(DirPurpose purpose) {
+  BeforeBoxOpens::RunAll();
   DirForm form(QCoreApplication::applicationDirPath(), *this, SystemDrives, purpose);
   if (unattended_) {
     Print(form.Title(), texts::kAppTitle);
@@ -320,12 +322,23 @@ void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Pr
   dialog.setAutoClose(false);
   dialog.setMinimumDuration(400);
   dialog.setValue(0);
+  // A box the task opens comes up once the bar has gone, not under it, and the
+  // bar's timer does not bring it back over the box. A stop asked for before
+  // stays asked for.
+  bool stopped = false;
+  const BeforeBoxOpens bar_away([&dialog, &stopped] {
+    stopped = stopped || dialog.wasCanceled();
+    dialog.reset();
+    dialog.hide();
+  });
   // The bar and the windows are brought up to date a few times a second:
   // often enough to answer the cancel button at once, seldom enough to cost
   // the work nothing.
   class Bar : public Progress {
    public:
-    explicit Bar(QProgressDialog& dialog) : dialog_(dialog) { since_.start(); }
+    Bar(QProgressDialog& dialog, const bool& stopped) : dialog_(dialog), stopped_(stopped) {
+      since_.start();
+    }
     bool Advance(qint64 done, qint64 total) override {
       if (since_.elapsed() >= 40 || done >= total) {
         since_.restart();
@@ -333,13 +346,14 @@ void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Pr
         dialog_.setValue(static_cast<int>(std::min<qint64>(step, kSteps - 1)));
         QCoreApplication::processEvents();
       }
-      return !dialog_.wasCanceled();
+      return !stopped_ && !dialog_.wasCanceled();
     }
 
    private:
     QProgressDialog& dialog_;
+    const bool& stopped_;
     QElapsedTimer since_;
-  } bar(dialog);
+  } bar(dialog, stopped);
   task(bar);
 }
 

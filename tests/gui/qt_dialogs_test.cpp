@@ -7,11 +7,14 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QListWidget>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
+#include <QThread>
 #include <memory>
 
 #include "gui/driver.h"
@@ -194,6 +197,37 @@ TEST(QtDialogsTest, AChoiceAnswersThePlaceOfTheButtonPressed) {
                       box.setDefaultButton(qobject_cast<QPushButton*>(box.buttons()[1]));
                     }));
   EXPECT_EQ(answer, 1);
+}
+
+// A box the task opens while its bar shows comes up with the bar gone, and
+// the task goes on after it.
+TEST(QtDialogsTest, ABoxFromAWorkWithABarIsNotUnderTheBar) {
+  QtDialogs dialogs(false);
+  const auto bars = [] {
+    int shown = 0;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+      shown += qobject_cast<const QProgressDialog*>(window) != nullptr && window->isVisible();
+    return shown;
+  };
+  int under_box = -1;
+  bool went_on = false;
+  ASSERT_TRUE(AnswerNextBox(
+      [&] {
+        dialogs.RunWithProgress(u"Εργασία"_s, [&](Progress& progress) {
+          QElapsedTimer waited;
+          waited.start();
+          while (bars() == 0 && waited.elapsed() < 3000) {
+            progress.Advance(1, 10);
+            QThread::msleep(20);
+          }
+          ASSERT_EQ(bars(), 1);
+          dialogs.Message(u"Μήνυμα"_s, texts::kAppTitle);
+          went_on = progress.Advance(2, 10);
+        });
+      },
+      [&](QMessageBox&) { under_box = bars(); }));
+  EXPECT_EQ(under_box, 0);
+  EXPECT_TRUE(went_on);
 }
 
 }  // namespace
