@@ -17,6 +17,7 @@
 #include "filing/create_file.h"
 #include "filing/totals.h"
 #include "gui/paper/pdf_printer.h"
+#include "header/box_captions.h"
 #include "printing/printout.h"
 #include "printing/text_printer.h"
 #include "shell/errors.h"
@@ -120,7 +121,8 @@ int Check(Database& db, Kind kind, int id) {
       Print(stderr, u"veroxia-cli: no declaration "_s + QString::number(id) + u" of that kind"_s);
       return kUsage;
     }
-    for (const QString& line : ReportText(TotalsWindow(*report))) Print(stdout, line);
+    for (const QString& line : ReportText(TotalsWindow(*report, BoxCaptionsOf(kind))))
+      Print(stdout, line);
     if (report->AllAgree()) return 0;
     Print(stderr, kTotalsDisagree);
     return kFailed;

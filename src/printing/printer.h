@@ -14,6 +14,11 @@ struct PrinterError {
   QString description;
 };
 
+// The failure of a system call that set errno to `code`: its number and what
+// it means, in our words for the errors a user can meet (no room, no
+// permission, no such directory), else the system's in the C locale.
+PrinterError SystemPrinterError(int code);
+
 class Printer {
  public:
   virtual ~Printer() = default;

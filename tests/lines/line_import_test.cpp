@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "header/texts.h"
@@ -75,13 +74,11 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
     EXPECT_EQ(reader.Position(), reader.Size());
   }
   // Files that are no text of either encoding are refused whole.
+  // clang-format off
   const std::pair<QByteArray, QString> refused[] = {
-      {QByteArray("\xFF\xFE"
-                  "a\0;\0",
-                  6),
-       u"UTF-16"_s},
-      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)},
-  };
+      {QByteArray("\xFF\xFE" "a\0;\0", 6), u"UTF-16"_s},
+      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)}};
+  // clang-format on
   for (const auto& [bytes, why] : refused) {
     const QString path = dir.filePath(u"b.csv"_s);
     ASSERT_TRUE(WriteFile(path, bytes));
@@ -113,11 +110,11 @@ TEST(CsvReaderTest, RecordsAcrossThePiecesReadWhole) {
   }
 }
 
-class LineImportTest : public ::testing::Test {
+class LineImportTest : public ScreenTest<OvtForm2> {
  protected:
   LineImportTest() {
-    store_.vars.PeriodFrom = u"012002"_s;
-    store_.vars.PeriodTo = u"032002"_s;
+    vars_.PeriodFrom = u"012002"_s;
+    vars_.PeriodTo = u"032002"_s;
     db_.Exec(
         "INSERT INTO QOR_EMPLOYERS (id) VALUES (1), (2); "
         "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '1')");
@@ -130,19 +127,15 @@ class LineImportTest : public ::testing::Test {
               std::optional<ImportMode> mode = ImportMode::kAppend) {
     const QString path = dir_.filePath(u"lines.csv"_s);
     EXPECT_TRUE(WriteFile(path, csv));
-    store_.vars.DeclarationId = static_cast<std::int16_t>(id);
+    vars_.DeclarationId = static_cast<std::int16_t>(id);
     dialogs_.files.push_back(path);
-    const auto form = MakeLinesForm(Kind::Common, store_.vars, dialogs_, screens_);
+    const auto form = MakeLinesForm(Kind::Common, vars_, dialogs_, screens_);
     return ImportLines(*form, dialogs_, {}, {}, ImportAnswers{mode, std::nullopt});
   }
 
   std::vector<std::vector<Text>> Stored() { return DumpTable(db_, "QOR_EMPLOYEES"); }
 
   QTemporaryDir dir_;
-  TempStore store_;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
 };
 
 // Every row that fails is reported with its line, column, value and the
@@ -260,9 +253,8 @@ TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
 // On the screen: the import waits for new or browse mode, and the first
 // line brought in is shown, in browse mode, before the user is told.
 TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
-  store_.vars.DeclarationId = 2;
-  OvtForm2 form(store_.vars, dialogs_, screens_);
-  form.Load();
+  vars_.DeclarationId = 2;
+  OvtForm2& form = Open();
   EXPECT_TRUE(form.At(u"ImportCmd"_s).enabled && form.NewMode());
   const QString path = dir_.filePath(u"lines.csv"_s);
   ASSERT_TRUE(WriteFile(path, Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)})));
