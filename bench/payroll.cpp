@@ -69,7 +69,12 @@ ConEmployeeRow WorkerLine(const EmployeeRow& line) {
   row.cover_code = u"2013"_s;
   row.sal_from = u"01/01/2002"_s;
   row.sal_to = u"31/01/2002"_s;
-  row.wage_code = line.wage_code;
+  // One line per worker and wage type: the monthly lines of regular pay
+  // become the types 01, 02 and 04 of the month.
+  const int month = line.sal_month.value_or(QString()).toInt();
+  row.wage_code = line.wage_code == u"03"_s
+                      ? line.wage_code
+                      : QStringLiteral("%1").arg(month == 3 ? 4 : month, 2, 10, QLatin1Char('0'));
   row.insurance_days = u"20"_s;
   row.daily_wages = line.daily_wages;
   row.salary = line.salary;

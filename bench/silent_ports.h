@@ -16,7 +16,7 @@ class SilentDialogs : public Dialogs {
   void SetBusy(bool) override {}
   SearchAnswer AskInsuredPerson() override { return search; }
   QString AskDirectory(DirPurpose) override { return {}; }
-  void PrintPreview(const std::function<bool(Printer&)>&) override {}
+  void PrintPreview(const PrintJob&) override {}
   void ShowReport(const Report&) override {}
   bool ConfirmReport(const Report&, const QString&) override { return true; }
   QString AskFile(const FileQuestion&) override { return file; }

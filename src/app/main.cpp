@@ -17,6 +17,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   veroxia::UseGreekQtTexts();
   veroxia::UseProgramFont();
+  veroxia::UseReadableDisabledText();
 
   veroxia::Vars vars;
   vars.AppDir = QCoreApplication::applicationDirPath();

@@ -38,7 +38,7 @@ class ConsoleDialogs : public Dialogs {
   QString AskDirectory(DirPurpose) override { return path_; }
   // The command line has no preview: its printouts go straight to the
   // printer the command names (RunPrintout).
-  void PrintPreview(const std::function<bool(Printer&)>&) override {}
+  void PrintPreview(const PrintJob&) override {}
   void ShowReport(const Report& report) override;
   bool ConfirmReport(const Report&, const QString&) override { return true; }
   QString AskFile(const FileQuestion&) override { return path_; }

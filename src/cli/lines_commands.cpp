@@ -4,6 +4,7 @@
 
 #include "cli/console.h"
 #include "cli/texts.h"
+#include "lines/import_texts.h"
 #include "lines/line_import.h"
 #include "lines/line_kinds.h"
 #include "rules/texts.h"
@@ -17,6 +18,18 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int kFailed = 1;
+
+const QString kAppendOption = u"--append"_s;
+const QString kReplaceOption = u"--replace"_s;
+const QString kKeepRepeatsOption = u"--keep-duplicates"_s;
+
+// The words without the import's options.
+QStringList WithoutOptions(QStringList args) {
+  args.removeAll(kAppendOption);
+  args.removeAll(kReplaceOption);
+  args.removeAll(kKeepRepeatsOption);
+  return args;
+}
 
 class NoScreens : public Screens {
  public:
@@ -45,7 +58,14 @@ bool IsLinesCommand(const QString& command) {
   return command == u"import" || command == u"export-lines";
 }
 
-QString LinesCommandUsage(const QStringList& args) {
+QString LinesCommandUsage(const QStringList& all) {
+  const bool append = all.contains(kAppendOption);
+  const bool replace = all.contains(kReplaceOption);
+  if (append && replace) return cli_texts::kAppendOrReplace;
+  if ((append || replace || all.contains(kKeepRepeatsOption)) && all[0] != u"import") {
+    return cli_texts::kImportOptionsOnly;
+  }
+  const QStringList args = WithoutOptions(all);
   if (args.size() != 4) return cli_texts::kNeedsKindIdAndFile.arg(args[0]);
   Kind kind = Kind::Common;
   if (!ReadKind(args[1], kind)) return cli_texts::kKindWords;
@@ -55,7 +75,11 @@ QString LinesCommandUsage(const QStringList& args) {
   return {};
 }
 
-int RunLinesCommand(const QString& store_path, const QStringList& args) {
+int RunLinesCommand(const QString& store_path, const QStringList& all) {
+  const QStringList args = WithoutOptions(all);
+  std::optional<ImportMode> mode;
+  if (all.contains(kAppendOption)) mode = ImportMode::kAppend;
+  if (all.contains(kReplaceOption)) mode = ImportMode::kReplace;
   Kind kind = Kind::Common;
   ReadKind(args[1], kind);
   const QString& file = args[3];
@@ -67,16 +91,24 @@ int RunLinesCommand(const QString& store_path, const QStringList& args) {
   if (!OpenStoreAt(vars, dialogs, store_path)) return kFailed;
   vars.DeclarationId = static_cast<std::int16_t>(args[2].toInt());
   const auto run = [&] {
-    if (args[0] == u"export-lines") {
-      return ExportLinesTo(*vars.StoreConnection, kind, vars.DeclarationId, dialogs, file);
-    }
+    if (args[0] == u"export-lines") return ExportLinesTo(vars, kind, dialogs, file);
     try {
       TakePeriod(vars, kind);
+      // Without an option there is no answer to what becomes of the lines a
+      // declaration has already: it is refused.
+      const int existing = CountLines(*vars.StoreConnection, kind, vars.DeclarationId);
+      if (!mode && existing > 0) {
+        Print(stderr, import_texts::kExistingLinesOption.arg(vars.DeclarationId).arg(existing));
+        return false;
+      }
     } catch (const StoreError&) {
       // The import itself tells the store's error.
     }
     const std::unique_ptr<LinesForm> form = MakeLinesForm(kind, vars, dialogs, screens);
-    const bool stored = ImportLines(*form, dialogs, file);
+    // Rows that repeat a line are listed and refused, unless asked for.
+    const ImportAnswers answers{mode.value_or(ImportMode::kAppend),
+                                all.contains(kKeepRepeatsOption)};
+    const bool stored = ImportLines(*form, dialogs, file, {}, answers);
     return (!vars.Session || vars.Session->Settle()) && stored;
   };
   const bool done = run();

@@ -18,6 +18,7 @@
 #include "filing/create_file.h"
 #include "filing/totals.h"
 #include "gui/paper/pdf_printer.h"
+#include "header/box_captions.h"
 #include "printing/printout.h"
 #include "printing/text_printer.h"
 #include "shell/errors.h"
@@ -66,7 +67,8 @@ int Check(Database& db, Kind kind, int id) {
       Print(stderr, u"veroxia-cli: "_s + cli_texts::kNoDeclaration.arg(id));
       return kUsage;
     }
-    for (const QString& line : ReportText(TotalsWindow(*report))) Print(stdout, line);
+    for (const QString& line : ReportText(TotalsWindow(*report, BoxCaptionsOf(kind))))
+      Print(stdout, line);
     if (report->AllAgree()) return 0;
     Print(stderr, kTotalsDisagree);
     return kFailed;

@@ -20,6 +20,27 @@ QString UnencodableMessage(const Unencodable& fault) {
   return first + u"\r\n"_s + filing_texts::kNothingWritten;
 }
 
+// The volumes of an earlier run in the directory: those of the kind, which
+// the new set replaces or takes away, then those of the other kind, which
+// would leave two files on one medium and go too.
+QStringList OldVolumes(const QString& directory, Kind kind, QString& question) {
+  const FoundVolumes found = FindVolumes(directory);
+  const int own = kind == Kind::Common ? 0 : 1;
+  QStringList names[2];
+  for (const int k : {own, 1 - own}) {
+    for (const auto& [number, name] : found.named[k]) names[k] << name;
+  }
+  question = filing_texts::kOldVolumes.arg(directory);
+  if (!names[own].isEmpty()) {
+    question += u"\r\n"_s + filing_texts::kOldVolumesReplaced.arg(names[own].join(u", "_s));
+  }
+  if (!names[1 - own].isEmpty()) {
+    question += u"\r\n"_s + filing_texts::kOldVolumesOtherKind.arg(names[1 - own].join(u", "_s));
+  }
+  question += u"\r\n"_s + filing_texts::kOldVolumesQuestion;
+  return names[own] + names[1 - own];
+}
+
 }  // namespace
 
 FileOutcome CreateFile(Vars& vars, Dialogs& dialogs, Kind kind) {
@@ -64,22 +85,40 @@ FileOutcome CreateFile(Vars& vars, Dialogs& dialogs, Kind kind) {
   if (vars.DialogResult.trimmed().isEmpty()) return FileOutcome::kCancelled;
   const QString directory = vars.DialogResult;
 
+  // A write into the directory cut short before is finished first; the
+  // volumes then found are named before any of them goes.
   busy.emplace(dialogs);
-  VolumeFiles files(directory);
+  QStringList old;
+  QString question;
+  try {
+    FinishUnfinishedWrites(directory);
+    old = OldVolumes(directory, kind, question);
+  } catch (const FileError& error) {
+    busy.reset();
+    dialogs.Message(ErrorMessage(filing_texts::kWriteFailed, error.code, error.description), title);
+    return FileOutcome::kFailed;
+  }
+  busy.reset();
+  if (!old.isEmpty() && !dialogs.Ask(question, title, AskStyle::Question)) {
+    return FileOutcome::kCancelled;
+  }
+
+  busy.emplace(dialogs);
+  VolumeFiles files(directory, old);
   try {
     writer->Write(files);
   } catch (const Unencodable& fault) {
-    files.Abandon(false);
+    files.Abandon();
     busy.reset();
     dialogs.Message(UnencodableMessage(fault), title);
     return FileOutcome::kUnencodable;
   } catch (const StoreError& error) {
-    files.Abandon(true);
+    files.Abandon();
     busy.reset();
     dialogs.Message(ErrorMessage(filing_texts::kWriteFailed, error), title);
     return FileOutcome::kFailed;
   } catch (const FileError& error) {
-    files.Abandon(true);
+    files.Abandon();
     busy.reset();
     dialogs.Message(ErrorMessage(filing_texts::kWriteFailed, error.code, error.description), title);
     return FileOutcome::kFailed;

@@ -3,16 +3,19 @@
 #include <QStringEncoder>
 #include <memory>
 
+#include "rules/texts.h"
+
 namespace veroxia {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+// The stored bytes without the blanks at either end, as TrimBlanks takes them
+// off a text: a tab or another space stays.
 std::string_view Trimmed(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
   return text;
 }
 
@@ -60,13 +63,12 @@ bool AppendAmount(QByteArray& out, std::string_view text, int width) {
   return true;
 }
 
-// Appends a stored text of characters of the table, trimmed and padded with
-// blanks; false when a character is not in the table or a blank the text
-// would lose when trimmed is not a plain one.
+// Appends a stored text of characters of the table, without its end blanks
+// and padded with blanks; false when a character is not in the table.
 bool AppendTableText(QByteArray& out, std::string_view text, int width) {
   const qsizetype from = out.size();
   const QString value = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-  const QString trimmed = value.trimmed();
+  const QString trimmed = TrimBlanks(value);
   if (!CodePageTable().Append(out, trimmed)) return false;
   PadRight(out, from, width, ' ');
   return true;

@@ -28,6 +28,41 @@ inline const QString kDirectoryNotWritable = u"Δεν επιτρέπεται η 
 // The header's totals do not agree with the lines, or a value is no number or
 // a check digit is wrong.
 inline const QString kTotalsQuestion = u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων, ή κάποιος αριθμός δεν είναι σωστός (δείτε τον έλεγχο συνόλων). Θέλετε να δημιουργηθεί το αρχείο;"_s;
+// The volumes of an earlier run found in the chosen directory: its path,
+// then a line naming those of the declaration's kind and one naming those of
+// the other kind, then the question.
+inline const QString kOldVolumes = u"ΠΡΟΣΟΧΗ!! Ο κατάλογος '%1' έχει ήδη τόμους αρχείου Ξ.Ρ.Φ.:"_s;
+inline const QString kOldVolumesReplaced = u"%1: θα αντικατασταθούν από τους νέους τόμους ή θα διαγραφούν."_s;
+inline const QString kOldVolumesOtherKind = u"%1 (του άλλου είδους δήλωσης): θα διαγραφούν, ώστε ο κατάλογος να έχει ένα μόνο αρχείο Ξ.Ρ.Φ."_s;
+inline const QString kOldVolumesQuestion = u"Θέλετε να δημιουργηθεί το αρχείο;"_s;
+// A directory holding a write cut short (the program ended while it wrote
+// or put the volumes in place).
+inline const QString kUnfinishedWrite = u"Η δημιουργία του αρχείου Ξ.Ρ.Φ. σε αυτόν τον κατάλογο διακόπηκε. Δημιουργήστε ξανά το αρχείο."_s;
+// The volumes' header against the stored declaration's: a heading row, the
+// fields (each followed by its box), the verdict of each and the note of a
+// field that differs.
+inline const QString kHeaderHeading = u"ΕΠΙΚΕΦΑΛΙΔΑ"_s;
+inline const QString kInVolumes = u"ΣΤΟΥΣ ΤΟΜΟΥΣ"_s;
+inline const QString kInDeclaration = u"ΣΤΗ ΔΗΛΩΣΗ"_s;
+inline const QString kFieldAgrees = u"ΣΥΜΦΩΝΕΙ"_s;
+inline const QString kFieldDiffers = u"ΔΙΑΦΕΡΕΙ"_s;
+inline const QString kHeaderFieldDiffers = u"Η επικεφαλίδα των τόμων διαφέρει από τη δήλωση στο πεδίο %1."_s;
+inline const QString kFieldType = u"ΤΥΠΟΣ ΔΗΛΩΣΗΣ"_s;
+inline const QString kFieldBranch = u"ΚΩΔΙΚΟΣ ΥΠΟΚ/ΤΟΣ ΟΒΤ"_s;
+inline const QString kFieldAme = u"Α.Μ.Ε."_s;
+inline const QString kFieldAmoe = u"Α.Μ.Ο.Ε."_s;
+inline const QString kFieldAfm = u"Α.Φ.Μ."_s;
+inline const QString kFieldFromMonth = u"ΑΠΟ ΜΗΝΑ"_s;
+inline const QString kFieldFromYear = u"ΑΠΟ ΕΤΟΣ"_s;
+inline const QString kFieldToMonth = u"ΕΩΣ ΜΗΝΑ"_s;
+inline const QString kFieldToYear = u"ΕΩΣ ΕΤΟΣ"_s;
+inline const QString kFieldMonth = u"ΜΗΝΑΣ"_s;
+inline const QString kFieldYear = u"ΕΤΟΣ"_s;
+inline const QString kFieldDays = u"ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΣΦΑΛΙΣΗΣ"_s;
+inline const QString kFieldWorkDays = u"ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ"_s;
+inline const QString kFieldWages = u"ΣΥΝΟΛΟ ΑΠΟΔΟΧΩΝ"_s;
+inline const QString kFieldPaid = u"ΣΥΝΟΛΟ ΚΑΤΑΒΛ. ΕΙΣΦΟΡΩΝ"_s;
+inline const QString kFieldContributions = u"ΣΥΝΟΛΟ ΕΙΣΦΟΡΩΝ"_s;
 // clang-format on
 
 }  // namespace veroxia::filing_texts

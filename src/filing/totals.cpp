@@ -1,5 +1,6 @@
 #include "filing/totals.h"
 
+#include <algorithm>
 #include <array>
 
 #include "rules/check_digits.h"
@@ -7,6 +8,7 @@
 #include "rules/numbers.h"
 #include "rules/texts.h"
 #include "shell/errors.h"
+#include "shell/file_names.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
 
@@ -29,12 +31,15 @@ const QStringList kColumns{u"ΣΤΟΙΧΕΙΟ"_s, u"ΕΠΙΚΕΦΑΛΙΔΑ"_s, u
                            u"ΕΛΕΓΧΟΣ"_s};
 const QString kAllAgree = u"Τα σύνολα της επικεφαλίδας συμφωνούν με τις γραμμές των εργαζομένων."_s;
 const QString kUnreadable =
-    u"Η γραμμή %1 έχει στη στήλη %2 την τιμή '%3', που δεν είναι αριθμός."_s;
+    u"Η γραμμή %1 έχει στο πεδίο '%2' την τιμή '%3', που δεν είναι αριθμός."_s;
 const QString kWrongDigit =
-    u"Η γραμμή %1 έχει στη στήλη %2 τον αριθμό '%3', που δεν έχει σωστό ψηφίο ελέγχου."_s;
+    u"Η γραμμή %1 έχει στο πεδίο '%2' τον αριθμό '%3', που δεν έχει σωστό ψηφίο ελέγχου."_s;
 const QString kNoHeader = u"Η δήλωση δεν έχει αποθηκευμένη επικεφαλίδα."_s;
 const QString kWrongDigitHeader =
-    u"Η επικεφαλίδα έχει στη στήλη %1 τον αριθμό '%2', που δεν έχει σωστό ψηφίο ελέγχου."_s;
+    u"Η επικεφαλίδα έχει στο πεδίο '%1' τον αριθμό '%2', που δεν έχει σωστό ψηφίο ελέγχου."_s;
+const QString kOutOfPeriod =
+    u"Η γραμμή %1 έχει στο πεδίο '%2' τον μήνα '%3', έξω από την περίοδο της δήλωσης (%4)."_s;
+const QString kPeriodTo = u"%1 έως %2"_s;
 
 // A number as hundredths, rounded as the amounts are formatted; empty for a
 // text that is not a number or too large.
@@ -80,13 +85,22 @@ QString MonthOf(const Text& month, const Text& year) {
   return ok ? QString::number(number).rightJustified(2, u'0') + u'/' + FieldText(year) : QString();
 }
 
+std::optional<int> MonthNumber(const Text& month, const Text& year) {
+  return MonthIndex(FieldText(month), FieldText(year));
+}
+
+QString MonthText(const Text& month, const Text& year) {
+  const QString text = FieldText(month) + u'/' + FieldText(year);
+  return text == u"/" ? QString() : text;
+}
+
 }  // namespace
 
 const QString kTotalsDisagree =
     u"ΠΡΟΣΟΧΗ!! Τα σύνολα της επικεφαλίδας δεν συμφωνούν με τις γραμμές των εργαζομένων."_s;
 
 bool TotalsReport::AllAgree() const {
-  if (!unreadable.empty() || !check_digits.empty()) return false;
+  if (!unreadable.empty() || !check_digits.empty() || !out_of_period.empty()) return false;
   for (const TotalsRow& row : rows) {
     if (!row.agrees) return false;
   }
@@ -124,9 +138,17 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
                                      {kContributions, "sum_contr", "total_contr", false}};
   // The months of the period, from the header's labels.
   std::vector<QString> months;
+  std::optional<int> first;
+  std::optional<int> last;
   if (common) {
     for (int m = 1; m <= 3; ++m) months.push_back(FieldText(value(u"saldate%1"_s.arg(m))));
+    first = MonthNumber(value(u"from_month"_s), value(u"from_year"_s));
+    last = MonthNumber(value(u"to_month"_s), value(u"to_year"_s));
+    const QString from = MonthText(value(u"from_month"_s), value(u"from_year"_s));
+    const QString to = MonthText(value(u"to_month"_s), value(u"to_year"_s));
+    report.period = from == to ? from : kPeriodTo.arg(from, to);
   }
+  const bool period_known = first && last;
   std::vector<std::array<qint64, 4>> sums(quantities.size(), {0, 0, 0, 0});  // months, whole
 
   Rows lines = LinesInOrder(db, kind, id);
@@ -147,6 +169,13 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
     }
     int month = -1;
     if (common) {
+      if (period_known) {
+        const auto line = MonthNumber(lines->Value(sal_month), lines->Value(sal_year));
+        if (!line || *line < *first || *line > *last) {
+          report.out_of_period.push_back(
+              {lines->Int(row_num), MonthText(lines->Value(sal_month), lines->Value(sal_year))});
+        }
+      }
       const QString label = MonthOf(lines->Value(sal_month), lines->Value(sal_year));
       for (int m = 0; m < 3; ++m) {
         if (!label.isEmpty() && months[m] == label) month = m;
@@ -180,7 +209,7 @@ std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id) {
   return report;
 }
 
-Report TotalsWindow(const TotalsReport& report) {
+Report TotalsWindow(const TotalsReport& report, const BoxCaption& caption) {
   Report shown;
   shown.title = kTotalsTitle;
   shown.columns = kColumns;
@@ -189,19 +218,34 @@ Report TotalsWindow(const TotalsReport& report) {
         {{row.label, row.header, row.lines, row.difference, row.agrees ? kAgrees : kDiffers},
          row.agrees});
   }
-  for (const UnreadableValue& value : report.unreadable) {
-    shown.notes << kUnreadable.arg(value.row_num).arg(value.column, value.text);
-  }
+  // Within a line the notes follow its boxes: the personal numbers, the
+  // payroll month, the amounts.
+  std::vector<std::pair<int, QString>> notes;
   for (const UnreadableValue& value : report.check_digits) {
-    shown.notes << (value.row_num == 0
-                        ? kWrongDigitHeader.arg(value.column, value.text)
-                        : kWrongDigit.arg(value.row_num).arg(value.column, value.text));
+    const bool in_header = value.row_num == 0;
+    const QString box = caption(in_header, value.column);
+    notes.emplace_back(value.row_num, in_header
+                                          ? kWrongDigitHeader.arg(box, value.text)
+                                          : kWrongDigit.arg(value.row_num).arg(box, value.text));
   }
+  for (const LineOutOfPeriod& line : report.out_of_period) {
+    notes.emplace_back(line.row_num,
+                       kOutOfPeriod.arg(line.row_num)
+                           .arg(caption(false, u"sal_month"_s), line.month, report.period));
+  }
+  for (const UnreadableValue& value : report.unreadable) {
+    notes.emplace_back(
+        value.row_num,
+        kUnreadable.arg(value.row_num).arg(caption(false, value.column), value.text));
+  }
+  std::stable_sort(notes.begin(), notes.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
+  for (const auto& note : notes) shown.notes << note.second;
   shown.verdict = report.AllAgree() ? kAllAgree : kTotalsDisagree;
   return shown;
 }
 
-void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind) {
+void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind, const BoxCaption& caption) {
   std::optional<TotalsReport> report;
   std::optional<StoreError> failure;
   {
@@ -217,7 +261,10 @@ void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind) {
   } else if (!report) {
     dialogs.Message(kTotalsNotCompared + u"\r\n"_s + kNoHeader, texts::kAppTitle);
   } else {
-    dialogs.ShowReport(TotalsWindow(*report));
+    Report shown = TotalsWindow(*report, caption);
+    shown.file_name =
+        DeclarationFileName(kind, vars.DeclarationId, vars.PeriodFrom, vars.PeriodTo, u"txt"_s);
+    dialogs.ShowReport(shown);
   }
 }
 

@@ -33,13 +33,26 @@ struct UnreadableValue {
   QString text;
 };
 
+// A line whose payroll month lies outside the declaration's period. It still
+// counts where it counted: in the whole, and in a month of the period whose
+// label it matches.
+struct LineOutOfPeriod {
+  int row_num = 0;
+  QString month;  // the line's month and year as stored, "month/year"
+};
+
 struct TotalsReport {
   std::vector<TotalsRow> rows;
   std::vector<UnreadableValue> unreadable;
   // Tax numbers and AMKA whose check digit is wrong: row_num 0 for the
   // header's.
   std::vector<UnreadableValue> check_digits;
-  // Every total agrees, every value is a number and every check digit holds.
+  // Common kind: the lines outside the period of the header, and that period
+  // as the notes name it. Nothing when the header's period is no month.
+  std::vector<LineOutOfPeriod> out_of_period;
+  QString period;
+  // Every total agrees, every value is a number, every check digit holds and
+  // every line lies in the period.
   bool AllAgree() const;
 };
 
@@ -47,7 +60,8 @@ struct TotalsReport {
 // wages and paid contributions of each month of the period (a line counts in
 // the month of its payroll period) and of the whole; for the construction
 // kind the days of work, wages and total contributions. The check digits of
-// the tax numbers and AMKA of the header and the lines are checked too.
+// the tax numbers and AMKA of the header and the lines are checked too, and
+// the payroll months of the common lines against the header's period.
 // Empty when no header is stored. Throws StoreError.
 std::optional<TotalsReport> CompareTotals(Database& db, Kind kind, int id);
 
@@ -62,11 +76,14 @@ inline const QString kTotalsTitle = QStringLiteral("Έλεγχος συνόλω�
 
 // The comparison as the user reads it: a row per total with the header's
 // value, the sum of the lines, the difference and the verdict; the values
-// that are no numbers and the wrong check digits as notes.
-Report TotalsWindow(const TotalsReport& report);
+// that are no numbers, the wrong check digits and the lines outside the
+// period as notes, each naming its box by `caption`, in the order of the
+// lines (the header's first).
+Report TotalsWindow(const TotalsReport& report, const BoxCaption& caption);
 
 // "Έλεγχος συνόλων": the report of the declaration being worked on
-// (vars.DeclarationId) in its window; a store error is told instead.
-void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind);
+// (vars.DeclarationId) in its window, offered for saving under the
+// declaration's name; a store error is told instead.
+void ShowTotals(Vars& vars, Dialogs& dialogs, Kind kind, const BoxCaption& caption);
 
 }  // namespace veroxia

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QStringDecoder>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -13,7 +14,9 @@
 #include "filing/volume_files.h"
 #include "filing/volume_layout.h"
 #include "filing/volume_writer.h"
+#include "rules/texts.h"
 #include "shell/errors.h"
+#include "shell/file_names.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
 
@@ -109,6 +112,30 @@ const VolumeField& IdField(const VolumeLayout& layout) {
   return layout.person.front();
 }
 
+// The header fields compared with the stored declaration's: its period, ids
+// and totals.
+struct Compared {
+  const char* column;
+  const QString& name;
+};
+const std::vector<Compared>& ComparedFields(Kind kind) {
+  using namespace filing_texts;
+  static const std::vector<Compared> common{
+      {"declaration_type", kFieldType},   {"orgbra_branch_code", kFieldBranch},
+      {"emp_employer_id", kFieldAme},     {"taxation_number", kFieldAfm},
+      {"from_month", kFieldFromMonth},    {"from_year", kFieldFromYear},
+      {"to_month", kFieldToMonth},        {"to_year", kFieldToYear},
+      {"total_days", kFieldDays},         {"total_salaries", kFieldWages},
+      {"total_contributions", kFieldPaid}};
+  static const std::vector<Compared> construction{
+      {"declare_type", kFieldType}, {"ovt_code", kFieldBranch},
+      {"ame", kFieldAme},           {"amoe", kFieldAmoe},
+      {"afm", kFieldAfm},           {"from_month", kFieldMonth},
+      {"from_year", kFieldYear},    {"sum_salaries", kFieldWages},
+      {"sum_days", kFieldWorkDays}, {"sum_contr", kFieldContributions}};
+  return kind == Kind::Common ? common : construction;
+}
+
 QString VolumeName(const VolumeLayout& layout, int number) {
   return QLatin1StringView(layout.prefix) + VolumeNumber(number);
 }
@@ -168,6 +195,8 @@ class Checker {
 
   void Volume(const QString& path, VolumeSummary& summary);
   void End();
+  // The first header read; empty when none.
+  const QByteArray& FirstHeader() const { return first_header_; }
   // Keeps the finding, unless kKeptFindings of its volume (or of the set)
   // are kept already.
   void Add(VolumeFinding finding);
@@ -384,13 +413,22 @@ void Checker::End() {
 }  // namespace
 
 std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id) {
+  const VolumeLayout& layout = VolumeLayoutOf(kind);
+  VolumeCounts counts{kind, 0, 0, {}};
   {
     Rows header = HeaderRow(db, kind, id);
     if (!header->Next()) return std::nullopt;
+    for (const Compared& compared : ComparedFields(kind)) {
+      for (const VolumeField& field : layout.header) {
+        if (std::strcmp(field.column, compared.column) != 0) continue;
+        const int column = header->ColumnIndex(QLatin1StringView(field.column));
+        counts.header.push_back({&field,
+                                 compared.name + u" ("_s + QString::number(field.box) + u')',
+                                 FormatField(field, column < 0 ? Text() : header->Value(column))});
+      }
+    }
   }
-  const VolumeLayout& layout = VolumeLayoutOf(kind);
   const VolumeField& id_field = IdField(layout);
-  VolumeCounts counts{kind, 0, 0};
   // The writer's groups: a person opens at every change of the stored
   // register number against the trimmed one of the person before; an empty
   // one opens a group and so does the line after it. Its volumes are
@@ -412,7 +450,7 @@ std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id) {
       const QString held = FormatField(id_field, text);
       if (!top || held != last_id) ++counts.persons;
       last_id = held;
-      const QString trimmed = text.trimmed();
+      const QString trimmed = TrimBlanks(text);
       open = trimmed.isEmpty() ? std::nullopt : std::optional(trimmed.toUtf8());
       bytes += layout.person_bytes;
     }
@@ -431,27 +469,13 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
     check.findings.push_back(Finding(0, 0, VolumeFault::kNoDirectory));
     return check;
   }
-  // The volumes of each kind by number; files named like volumes otherwise.
-  std::map<int, QString> found[2];
-  QStringList misnamed;
-  bool seen[2] = {false, false};
-  const QStringList names = dir.entryList(QDir::Files | QDir::Hidden, QDir::Name);
-  for (const Kind kind : {Kind::Common, Kind::Construction}) {
-    const int k = kind == Kind::Common ? 0 : 1;
-    const QLatin1StringView prefix(VolumeLayoutOf(kind).prefix);
-    for (const QString& name : names) {
-      if (!name.startsWith(prefix)) continue;
-      seen[k] = true;
-      const QString digits = name.mid(prefix.size());
-      bool number = false;
-      const int n = digits.toInt(&number);
-      if (number && n >= 1 && VolumeNumber(n) == digits) {
-        found[k][n] = name;
-      } else {
-        misnamed << name;
-      }
-    }
+  // Whatever volumes a write cut short left, they are not to be trusted.
+  if (!UnfinishedWrites(directory).isEmpty()) {
+    check.findings.push_back(Finding(0, 0, VolumeFault::kUnfinished));
+    return check;
   }
+  const FoundVolumes found = FindVolumes(directory);
+  const bool* seen = found.seen;
   if (seen[0] == seen[1]) {
     check.findings.push_back(
         Finding(0, 0, seen[0] ? VolumeFault::kBothKinds : VolumeFault::kNoVolumes));
@@ -461,10 +485,10 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
   check.kind = kind;
   const VolumeLayout& layout = VolumeLayoutOf(kind);
   Checker checker(layout, check);
-  for (const QString& name : misnamed) {
+  for (const QString& name : found.misnamed) {
     checker.Add(Finding(0, 0, VolumeFault::kBadName, 0, 0, name));
   }
-  const std::map<int, QString>& volumes = found[seen[0] ? 0 : 1];
+  const std::map<int, QString>& volumes = found.named[seen[0] ? 0 : 1];
   check.volumes.reserve(volumes.size());  // the checker holds on to the one it reads
   int next = 1;
   for (const auto& [number, name] : volumes) {
@@ -487,6 +511,16 @@ VolumeCheck VerifyVolumes(const QString& directory, std::optional<VolumeCounts> 
       if (check.persons != expected->persons) {
         check.findings.push_back(
             Finding(0, 0, VolumeFault::kPersonCount, check.persons, expected->persons));
+      }
+      // The header's fields as the first volume holds them.
+      QStringDecoder decoder("windows-1253", QStringConverter::Flag::Stateless);
+      for (const StoredField& stored : expected->header) {
+        const QString held = decoder.decode(
+            Part(checker.FirstHeader(), stored.field->start - 1, stored.field->width));
+        check.header.push_back({stored.label, held, stored.text});
+        if (!check.header.back().Agrees()) {
+          check.findings.push_back(Finding(0, 0, VolumeFault::kHeaderField, 0, 0, stored.label));
+        }
       }
     }
   }
@@ -511,6 +545,10 @@ QString FaultText(VolumeFault fault) {
   switch (fault) {
     case VolumeFault::kNoDirectory:
       return filing_texts::kDirectoryMissing;
+    case VolumeFault::kUnfinished:
+      return filing_texts::kUnfinishedWrite;
+    case VolumeFault::kHeaderField:
+      return filing_texts::kHeaderFieldDiffers;
     case VolumeFault::kNoVolumes:
       return u"Ο κατάλογος δεν έχει τόμους αρχείου Ξ.Ρ.Φ. (CSL01 ή CSC01 και τους επόμενους)."_s;
     case VolumeFault::kBothKinds:
@@ -571,6 +609,7 @@ QString FindingText(const VolumeFinding& f, const VolumeLayout& layout) {
   switch (f.fault) {
     case VolumeFault::kBadName:
     case VolumeFault::kUnreadable:
+    case VolumeFault::kHeaderField:
       what = what.arg(f.detail);
       break;
     case VolumeFault::kMissing:
@@ -648,6 +687,17 @@ Report VolumeCheckWindow(const VolumeCheck& check) {
         Row(kDeclaration, QString(), check.expected->persons, check.expected->lines,
             check.expected->persons == check.persons && check.expected->lines == check.lines));
   }
+  if (!check.header.empty()) {
+    report.rows.push_back({{filing_texts::kHeaderHeading, filing_texts::kInVolumes,
+                            filing_texts::kInDeclaration, QString(), QString()},
+                           true});
+  }
+  for (const HeaderComparison& field : check.header) {
+    report.rows.push_back(
+        {{field.label, field.in_volumes, field.stored, QString(),
+          field.Agrees() ? filing_texts::kFieldAgrees : filing_texts::kFieldDiffers},
+         field.Agrees()});
+  }
   for (const VolumeFinding& f : check.findings) {
     const bool own = std::any_of(check.volumes.begin(), check.volumes.end(),
                                  [&](const VolumeSummary& v) { return v.number == f.volume; });
@@ -676,9 +726,14 @@ void CheckVolumes(Vars& vars, Dialogs& dialogs, Kind kind) {
   }
   if (failure) {
     dialogs.Message(ErrorMessage(kVolumesNotChecked, *failure), texts::kAppTitle);
-  } else {
-    dialogs.ShowReport(VolumeCheckWindow(*check));
+    return;
   }
+  Report report = VolumeCheckWindow(*check);
+  if (check->expected) {
+    report.file_name =
+        DeclarationFileName(kind, vars.DeclarationId, vars.PeriodFrom, vars.PeriodTo, u"txt"_s);
+  }
+  dialogs.ShowReport(report);
 }
 
 }  // namespace veroxia

@@ -12,6 +12,7 @@
 #include <optional>
 #include <vector>
 
+#include "filing/volume_layout.h"
 #include "shell/ports.h"
 #include "shell/report.h"
 #include "shell/vars.h"
@@ -20,22 +21,33 @@
 
 namespace veroxia {
 
+// A field of the header record and the stored declaration's value of it, as
+// the writer writes it.
+struct StoredField {
+  const VolumeField* field = nullptr;
+  QString label;  // what it is, and its box
+  QString text;
+};
+
 // What the volumes of a declaration must hold: its lines (records "3") and
 // its persons (records "2", a person named again at the top of a volume
-// counted once).
+// counted once), and in their header its period, ids and totals.
 struct VolumeCounts {
   Kind kind = Kind::Common;
   int persons = 0;
   int lines = 0;
+  std::vector<StoredField> header;
 };
 
-// The counts of a stored declaration, its persons grouped as the writer
-// groups them; none when the declaration has no header. Throws StoreError.
+// The counts and header fields of a stored declaration, its persons grouped
+// as the writer groups them; none when the declaration has no header. Throws
+// StoreError.
 std::optional<VolumeCounts> ExpectedCounts(Database& db, Kind kind, int id);
 
 enum class VolumeFault {
   // The directory and the set of volumes.
   kNoDirectory,
+  kUnfinished,  // a write cut short: nothing else is checked
   kNoVolumes,
   kBothKinds,
   kOtherKind,    // the volumes are not of the declaration's kind
@@ -45,6 +57,7 @@ enum class VolumeFault {
   kVolumeCount,  // found: the headers' number of volumes; wanted: the one the lines give
   kLineCount,    // found: in the volumes; wanted: stored
   kPersonCount,  // found: in the volumes; wanted: stored
+  kHeaderField,  // the header differs from the declaration's; detail: the field
   // One volume.
   kUnreadable,  // detail: the system's words
   kTooLarge,    // found: bytes
@@ -83,6 +96,14 @@ struct VolumeSummary {
   int faults = 0;   // all found; the first kKeptFindings are in the findings
 };
 
+// A field of the first volume's header against the stored declaration's.
+struct HeaderComparison {
+  QString label;
+  QString in_volumes;
+  QString stored;
+  bool Agrees() const { return in_volumes == stored; }
+};
+
 struct VolumeCheck {
   QString directory;
   std::optional<Kind> kind;            // none when no volume, or both kinds, were found
@@ -92,24 +113,25 @@ struct VolumeCheck {
   int persons = 0;
   int lines = 0;
   std::optional<VolumeCounts> expected;
+  std::vector<HeaderComparison> header;  // with the expected counts of the same kind
   bool AllHold() const { return findings.empty(); }
 };
 
 // Findings kept of each volume, and of the set as a whole.
 inline constexpr int kKeptFindings = 20;
 
-// Reads and checks the volumes of either kind in the directory; compares
-// them with the expected counts when given. As the writer writes them, every
-// volume ends with "EOF", and a volume is followed by another only when its
-// next line might not have fitted: the first whole volume with room left ends
-// the file, and any volume after it is extra. The headers are compared with
-// the first volume's.
+// Reads and checks the volumes of either kind in the directory, unless it
+// holds a write cut short; compares them with the expected counts and header
+// fields when given. As the writer writes them, every volume ends with "EOF",
+// and a volume is followed by another only when its next line might not have
+// fitted: the first whole volume with room left ends the file, and any volume
+// after it is extra. The headers are compared with the first volume's.
 VolumeCheck VerifyVolumes(const QString& directory,
                           std::optional<VolumeCounts> expected = std::nullopt);
 
-// The report as the user reads it: a row for each volume, the totals and the
-// declaration's counts; the findings of each volume, then those of the set
-// as a whole, as notes.
+// The report as the user reads it: a row for each volume, the totals, the
+// declaration's counts and its header fields; the findings of each volume,
+// then those of the set as a whole, as notes.
 Report VolumeCheckWindow(const VolumeCheck& check);
 
 // The window's title and the button's caption.
@@ -120,8 +142,9 @@ inline const QString kVolumesNotChecked =
     QStringLiteral("ΠΡΟΣΟΧΗ!! Ο έλεγχος των τόμων δεν έγινε.");
 
 // "Έλεγχος τόμων": the volumes in a directory the user chooses, against the
-// declaration being worked on (vars.DeclarationId), in the report's window.
-// Nothing happens when no directory is chosen.
+// declaration being worked on (vars.DeclarationId), in the report's window,
+// offered to be saved under the declaration's name. Nothing happens when no
+// directory is chosen.
 void CheckVolumes(Vars& vars, Dialogs& dialogs, Kind kind);
 
 // What is said when the volumes do not hold.

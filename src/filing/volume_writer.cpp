@@ -158,7 +158,7 @@ int VolumeWriter::Write(VolumeSink& sink) {
       Append(record, person, *rows);
       record += "\r\n";
       const QString trimmed =
-          QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size())).trimmed();
+          TrimBlanks(QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size())));
       previous = (trimmed.isEmpty() ? kNoPerson : trimmed).toUtf8();
       bytes += layout_.person_bytes;
     }

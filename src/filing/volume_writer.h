@@ -24,8 +24,8 @@ class VolumeSink {
   virtual void Write(const QByteArray& bytes) = 0;
   // Every volume is complete.
   virtual void Finish() = 0;
-  // The run failed: keep the volumes completed before the failure, or none.
-  virtual void Abandon(bool keep_completed) = 0;
+  // The run failed: nothing of it is kept.
+  virtual void Abandon() = 0;
 };
 
 // A failed file operation: the system's error number and what it means.

@@ -1,16 +1,21 @@
 #include "gui/dir_view.h"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QFileSystemModel>
+#include <QIcon>
+#include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QTimer>
 
 #include "gui/form_binder.h"
 #include "gui/twips.h"
 #include "gui/wrap_button.h"
+#include "shell/texts.h"
 
 namespace veroxia {
 
@@ -34,7 +39,8 @@ DirView::DirView(DirForm& form, QWidget* parent)
       binder_(new FormBinder(form, *this, DirForm::FocusOrder())),
       model_(new QFileSystemModel(this)),
       list_(new QListView(this)),
-      path_(new QLabel(this)) {
+      path_(new QLabel(this)),
+      path_box_(new QLineEdit(this)) {
   setModal(true);
   QVBoxLayout* layout =
       DressWindow(*this, kFontPoints, form_.Title(), form_.IconPath(), kMarginTwips);
@@ -50,6 +56,16 @@ DirView::DirView(DirForm& form, QWidget* parent)
   drives->setCurrentText(form_.Text(u"Drive1"_s));
   binder_->Bind(u"Drive1"_s, drives);
   layout->addWidget(drives);
+
+  // The path box, with its caption before it.
+  auto* go_to = new QHBoxLayout;
+  go_to->addWidget(binder_->Add<QLabel>(u"PathLbl"_s, this));
+  path_box_->setPlaceholderText(texts::kDirPathHint);
+  path_box_->setClearButtonEnabled(true);
+  binder_->Bind(u"PathTxt"_s, path_box_);
+  path_box_->installEventFilter(this);
+  go_to->addWidget(path_box_, 1);
+  layout->addLayout(go_to);
 
   path_->setObjectName(u"Dir1Path"_s);
   path_->setTextFormat(Qt::PlainText);
@@ -69,6 +85,8 @@ DirView::DirView(DirForm& form, QWidget* parent)
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(binder_->Add<WrapButton>(u"Command1"_s, this));
   buttons->addStretch(1);
+  buttons->addWidget(binder_->Add<WrapButton>(u"NewDirCmd"_s, this));
+  buttons->addStretch(1);
   buttons->addWidget(binder_->Add<WrapButton>(u"Command2"_s, this));
   layout->addLayout(buttons);
 
@@ -81,9 +99,12 @@ DirView::DirView(DirForm& form, QWidget* parent)
   connect(list_, &QAbstractItemView::doubleClicked, this, &DirView::Open);
   binder_->OnEdit([this](const QString& name) {
     if (name == u"Drive1") form_.Drive1_Change();
+    if (name == u"PathTxt") form_.PathTxt_Change();
   });
   binder_->OnClick(u"Command1"_s, [this] { form_.Command1_Click(); });
   binder_->OnClick(u"Command2"_s, [this] { form_.Command2_Click(); });
+  binder_->OnClick(u"NewDirCmd"_s, [this] { form_.NewDirCmd_Click(); });
+  form_.AskNamesWith([this] { return AskFolderName(); });
   binder_->OnMirror([this] {
     ShowPath();
     CloseIfDone();
@@ -127,14 +148,34 @@ void DirView::Open(const QModelIndex& index) {
 }
 
 bool DirView::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == list_ && event->type() == QEvent::KeyPress && list_->currentIndex().isValid()) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      Open(list_->currentIndex());
-      return true;
-    }
+  if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent*>(event)->key();
+  if (key != Qt::Key_Return && key != Qt::Key_Enter) return QDialog::eventFilter(watched, event);
+  if (watched == list_ && list_->currentIndex().isValid()) {
+    Open(list_->currentIndex());
+    return true;
+  }
+  if (watched == path_box_) {
+    form_.PathTxt_Enter();
+    binder_->Mirror();
+    return true;
   }
   return QDialog::eventFilter(watched, event);
+}
+
+std::optional<QString> DirView::AskFolderName() {
+  QInputDialog question(this);
+  question.setWindowTitle(texts::kDirNewFolder);
+  question.setLabelText(texts::kDirNewFolderName);
+  question.setOkButtonText(texts::kOkCmd);
+  question.setCancelButtonText(texts::kCancelCmd);
+  question.setInputMode(QInputDialog::TextInput);
+  // Buttons that carry their caption only, as in the program's other boxes.
+  for (QAbstractButton* button : question.findChildren<QAbstractButton*>()) {
+    button->setIcon(QIcon());
+  }
+  if (question.exec() != QDialog::Accepted) return std::nullopt;
+  return question.textValue();
 }
 
 void DirView::CloseIfDone() {

@@ -33,6 +33,18 @@ int WidthForCharacters(const QLineEdit& edit, int chars) {
   return std::max(size.width(), edit.minimumSizeHint().width());
 }
 
+bool TextFits(const QLineEdit& edit) {
+  QStyleOptionFrame option;
+  option.initFrom(&edit);
+  option.lineWidth = edit.hasFrame() ? edit.style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
+  const QRect contents = edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit);
+  // QLineEdit keeps two pixels on either side of its text, inside the text
+  // margins, and one more for the cursor.
+  const QMargins margins = edit.textMargins();
+  const int room = contents.width() - margins.left() - margins.right() - 2 * 2 - 1;
+  return edit.fontMetrics().horizontalAdvance(edit.displayText()) <= room;
+}
+
 void FitToCharacters(QLineEdit& edit, int chars) {
   edit.setFixedWidth(WidthForCharacters(edit, chars));
 }

@@ -29,6 +29,9 @@ void MakeDateBox(QLineEdit& edit);
 // The width FitToCharacters gives a box of `chars` digits.
 int WidthForCharacters(const QLineEdit& edit, int chars);
 
+// Whether the box shows the whole of its text at once, nothing scrolled away.
+bool TextFits(const QLineEdit& edit);
+
 // An option button with its caption right after it, as one piece of a line:
 // the caption is seen to belong to the circle before it. The layout is for
 // the caller to place.

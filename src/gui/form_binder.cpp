@@ -2,9 +2,11 @@
 
 #include <QComboBox>
 #include <QEvent>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
+#include <QToolTip>
 #include <QWidget>
 
 #include "gui/fields.h"
@@ -133,6 +135,7 @@ void FormBinder::MirrorControl(const QString& name, QWidget& widget) {
     if (combo->currentText() != control.text) {
       if (combo->isEditable()) {
         combo->setEditText(control.text);
+        combo->lineEdit()->setCursorPosition(0);  // from its first character, as a box
       } else {
         combo->setCurrentText(control.text);
       }
@@ -180,6 +183,15 @@ void FormBinder::MirrorFocus() {
 }
 
 bool FormBinder::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    // A box too narrow for its text, which a locked box cannot scroll, shows
+    // the whole text when the pointer rests on it.
+    auto* edit = qobject_cast<QLineEdit*>(watched);
+    if (edit != nullptr && edit->toolTip().isEmpty() && !TextFits(*edit)) {
+      QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), edit->displayText(), edit);
+      return true;
+    }
+  }
   if (event->type() == QEvent::FocusIn && !mirroring_) {
     const auto it = names_.find(static_cast<QWidget*>(watched));
     // Coming back to the field that has the focus already is no move.

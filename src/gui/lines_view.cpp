@@ -109,6 +109,19 @@ LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect t
   layout->addWidget(heading, 0, Qt::AlignHCenter);
   layout->addWidget(BuildFields(rows));
   layout->addStretch(1);
+  // Where the screen stands among the lines, and the move to a line by its
+  // number (Enter in the box moves too).
+  auto* place = new QHBoxLayout;
+  place->addWidget(binder_->Add<QLabel>(u"PositionLbl"_s, this));
+  place->addStretch(1);
+  place->addWidget(binder_->Add<QPushButton>(u"GotoCmd"_s, this));
+  auto* go_to = binder_->Add<QLineEdit>(u"GotoTxt"_s, this);
+  connect(go_to, &QLineEdit::returnPressed, this, [this] {
+    form_.GotoCmd_Click();
+    binder_->Mirror();
+  });
+  place->addWidget(go_to);
+  layout->addLayout(place);
   // Lines from and to a CSV file, on a row of their own over the buttons of
   // the line shown.
   auto* files = new QHBoxLayout;
@@ -133,6 +146,7 @@ LinesView::LinesView(LinesForm& form, const std::vector<LinesRow>& rows, QRect t
   binder_->OnClick(u"LastCmd"_s, [this] { form_.LastCmd_Click(); });
   binder_->OnClick(u"ImportCmd"_s, [this] { form_.ImportCmd_Click(); });
   binder_->OnClick(u"ExportCmd"_s, [this] { form_.ExportCmd_Click(); });
+  binder_->OnClick(u"GotoCmd"_s, [this] { form_.GotoCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
   binder_->FocusFirst();
   binder_->Mirror();

@@ -222,6 +222,7 @@ int QtDialogs::Choose(const QString& text, const QString& title, const QStringLi
 }
 
 SearchAnswer QtDialogs::AskInsuredPerson() {
+  BeforeBoxOpens::RunAll();
   if (unattended_) {
     Print(lines_texts::kSearchTitle, texts::kAppTitle);
     return {};
@@ -233,14 +234,15 @@ SearchAnswer QtDialogs::AskInsuredPerson() {
   return view.Ask();
 }
 
-QString QtDialogs::AskDirectory(DirPurpose /*purpose*/) {
+QString QtDialogs::AskDirectory(DirPurpose purpose) {
+  BeforeBoxOpens::RunAll();
+  DirForm form(QCoreApplication::applicationDirPath(), *this, SystemDrives, purpose);
   if (unattended_) {
-    Print(texts::kDirTitle, texts::kAppTitle);
+    Print(form.Title(), texts::kAppTitle);
     return {};
   }
   // The form sets the pointer itself: the arrow while open, the hourglass
   // after OK.
-  DirForm form(QCoreApplication::applicationDirPath(), *this);
   form.Load();
   DirView view(form, Owner());
   return view.Ask();
@@ -256,14 +258,17 @@ void QtDialogs::SetBusy(bool busy) {
   }
 }
 
-void QtDialogs::PrintPreview(const std::function<bool(Printer&)>& draw) {
+void QtDialogs::PrintPreview(const PrintJob& job) {
   BeforeBoxOpens::RunAll();
   if (unattended_) {
+    struct Unstopped : Progress {
+      bool Advance(qint64, qint64) override { return true; }
+    } progress;
     TextPrinter pages(stdout);
-    draw(pages);
+    job.draw(pages, progress);
     return;
   }
-  ShowPrintPreview(Owner(), draw);
+  ShowPrintPreview(Owner(), *this, job);
 }
 
 void QtDialogs::ShowReport(const Report& report) {
@@ -317,12 +322,23 @@ void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Pr
   dialog.setAutoClose(false);
   dialog.setMinimumDuration(400);
   dialog.setValue(0);
+  // A box the task opens comes up once the bar has gone, not under it, and the
+  // bar's timer does not bring it back over the box. A stop asked for before
+  // stays asked for.
+  bool stopped = false;
+  const BeforeBoxOpens bar_away([&dialog, &stopped] {
+    stopped = stopped || dialog.wasCanceled();
+    dialog.reset();
+    dialog.hide();
+  });
   // The bar and the windows are brought up to date a few times a second:
   // often enough to answer the cancel button at once, seldom enough to cost
   // the work nothing.
   class Bar : public Progress {
    public:
-    explicit Bar(QProgressDialog& dialog) : dialog_(dialog) { since_.start(); }
+    Bar(QProgressDialog& dialog, const bool& stopped) : dialog_(dialog), stopped_(stopped) {
+      since_.start();
+    }
     bool Advance(qint64 done, qint64 total) override {
       if (since_.elapsed() >= 40 || done >= total) {
         since_.restart();
@@ -330,13 +346,14 @@ void QtDialogs::RunWithProgress(const QString& text, const std::function<void(Pr
         dialog_.setValue(static_cast<int>(std::min<qint64>(step, kSteps - 1)));
         QCoreApplication::processEvents();
       }
-      return !dialog_.wasCanceled();
+      return !stopped_ && !dialog_.wasCanceled();
     }
 
    private:
     QProgressDialog& dialog_;
+    const bool& stopped_;
     QElapsedTimer since_;
-  } bar(dialog);
+  } bar(dialog, stopped);
   task(bar);
 }
 

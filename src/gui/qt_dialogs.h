@@ -70,7 +70,7 @@ class QtDialogs : public Dialogs {
   // The print preview over the window shown now, modal. In unattended runs
   // no window opens: the pages go as text to standard output, a form feed
   // between them.
-  void PrintPreview(const std::function<bool(Printer&)>& draw) override;
+  void PrintPreview(const PrintJob& job) override;
   // The report window over the window shown now; in unattended runs the
   // report's lines go to standard output instead.
   void ShowReport(const Report& report) override;

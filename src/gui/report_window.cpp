@@ -5,13 +5,12 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTableWidget>
-#include <QTextDocument>
 #include <algorithm>
 #include <memory>
 
@@ -30,8 +29,10 @@ const QString kSaveTitle = u"Αποθήκευση της αναφοράς σε �
 const QString kTextFilter = u"Αρχεία κειμένου (*.txt);;Όλα τα αρχεία (*)"_s;
 const QColor kFault(0xb0, 0x00, 0x00);
 
-// Lines of notes shown without scrolling.
+// Lines of notes shown without scrolling when the window opens.
 constexpr int kNoteLines = 6;
+// Room the style keeps on each side of a note's text.
+constexpr int kItemMargin = 4;
 
 // A number as the reports write them: digits, with dots, commas and signs.
 bool IsFigure(const QString& text) {
@@ -103,6 +104,9 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report, const QString& 
   window->setObjectName(u"ReportWindow"_s);
   window->setWindowTitle(report.title);
   window->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  // A report is read at any size the user likes: the table and the notes
+  // grow with the window.
+  window->setSizeGripEnabled(true);
   auto* column = new QVBoxLayout(window);
 
   const QScreen* screen = parent != nullptr && parent->screen() != nullptr
@@ -124,29 +128,39 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report, const QString& 
   table->setMinimumSize(width, needed.height() + bar);
   column->addWidget(table, 1);
 
+  int notes_width = 0;
   if (!report.notes.isEmpty()) {
-    auto* notes = new QPlainTextEdit(window);
+    // One note a row, in a list that takes its share of the window as it
+    // grows; a note wider than the list wraps rather than being cut.
+    auto* notes = new QListWidget(window);
     notes->setObjectName(u"ReportNotes"_s);
-    notes->setReadOnly(true);
-    notes->setLineWrapMode(QPlainTextEdit::NoWrap);
-    notes->setPlainText(report.notes.join(u'\n'));
+    notes->addItems(report.notes);
+    notes->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    notes->setWordWrap(true);
+    notes->setTextElideMode(Qt::ElideNone);
+    notes->setResizeMode(QListView::Adjust);
+    notes->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    notes->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     const int line = notes->fontMetrics().lineSpacing();
-    notes->setFixedHeight(line * (std::min<int>(report.notes.size(), kNoteLines) + 1) +
-                          2 * notes->frameWidth());
-    // As wide as the longest note, so that each reads without scrolling.
+    notes->setMinimumHeight(line * (std::min<int>(report.notes.size(), kNoteLines) + 1) +
+                            2 * notes->frameWidth());
+    // The window opens as wide as the longest note, within the screen, so
+    // that each reads on one line; narrowed, the notes wrap.
     int widest = 0;
     for (const QString& note : report.notes) {
       widest = std::max(widest, notes->fontMetrics().horizontalAdvance(note));
     }
-    const int margins = 2 * notes->frameWidth() +
-                        2 * static_cast<int>(notes->document()->documentMargin()) +
+    const int margins = 2 * notes->frameWidth() + 4 * notes->spacing() + 2 * kItemMargin +
                         notes->verticalScrollBar()->sizeHint().width();
-    notes->setMinimumWidth(std::min(widest + margins, room.width() - 60));
-    column->addWidget(notes);
+    notes_width = std::min(widest + margins, room.width() - 60);
+    column->addWidget(notes, 1);
+    // Room beyond what the table's rows need goes to the notes.
+    table->setMaximumHeight(TableRoom(*table, QWIDGETSIZE_MAX).height() + bar);
   }
 
   auto* verdict = new QLabel(report.verdict, window);
   verdict->setObjectName(u"ReportVerdict"_s);
+  verdict->setWordWrap(true);
   QFont bold = verdict->font();
   bold.setBold(true);
   verdict->setFont(bold);
@@ -179,6 +193,9 @@ QDialog* MakeReportWindow(QWidget* parent, const Report& report, const QString& 
   buttons->addWidget(close);
   column->addLayout(buttons);
   window->adjustSize();
+  const QMargins margins = column->contentsMargins();
+  const int opening = notes_width + margins.left() + margins.right();
+  if (window->width() < opening) window->resize(opening, window->height());
   return window;
 }
 

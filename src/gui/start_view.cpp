@@ -1,5 +1,6 @@
 #include "gui/start_view.h"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QFrame>
 #include <QGridLayout>
@@ -71,10 +72,22 @@ StartView::StartView(StartForm& form)
   binder_->OnClick(QStringLiteral("OkCmd"), [this] { form_.OkCmd_Click(); });
   binder_->OnClick(QStringLiteral("CancelCmd"), [this] { form_.CancelCmd_Click(); });
   binder_->OnFocus([this](const QString& name) { form_.GotFocus(name); });
+  PressOkOnEnter();
   binder_->Mirror();
 
   FixWindow(*this, StartForm::kLeftTwips, StartForm::kTopTwips, StartForm::kWidthTwips,
             StartForm::kHeightTwips);
+}
+
+void StartView::PressOkOnEnter() {
+  auto* ok = qobject_cast<QAbstractButton*>(binder_->Widget(QStringLiteral("OkCmd")));
+  for (const char* name : {"Month1", "Year1", "Month2", "Year2", "ConMonth", "ConYear"}) {
+    auto* field = qobject_cast<QLineEdit*>(binder_->Widget(QString::fromLatin1(name)));
+    // Return and the keypad's Enter alike.
+    connect(field, &QLineEdit::returnPressed, ok, [ok] {
+      if (ok->isVisible() && ok->isEnabled()) ok->click();
+    });
+  }
 }
 
 QWidget* StartView::BuildTop() {

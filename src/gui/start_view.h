@@ -17,6 +17,9 @@ class StartView : public QWidget {
   FormBinder& Binder() { return *binder_; }
 
  private:
+  // Enter in any of the period fields presses OkCmd, as a dialog's default
+  // button would be pressed.
+  void PressOkOnEnter();
   QWidget* BuildTop();
   QWidget* BuildFrame1();
   QWidget* BuildPeriodFields(QWidget* parent);

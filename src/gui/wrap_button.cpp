@@ -2,6 +2,7 @@
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QWidget>
 #include <algorithm>
 #include <climits>
 
@@ -46,7 +47,9 @@ int WrapButton::heightForWidth(int width) const {
 
 QSize WrapButton::sizeHint() const {
   const QSize padding = Padding();
-  const int one_line = fontMetrics().horizontalAdvance(text());
+  // The caption on one line, measured as it is laid out (its advance can be
+  // a pixel short of that, which would wrap the last word).
+  const int one_line = CaptionSize(QWIDGETSIZE_MAX).width();
   const int width = one_line + padding.width();
   return {width, heightForWidth(width)};
 }

@@ -1,5 +1,6 @@
 #include "header/header_checks.h"
 
+#include "filing/plain_field.h"
 #include "header/date_box.h"
 #include "header/texts.h"
 #include "rules/checks.h"
@@ -12,6 +13,13 @@ namespace {
 std::optional<FieldFault> FaultOf(const Fault& message, const QString& field, OnFault then) {
   if (!message) return std::nullopt;
   return FieldFault{field, *message, then};
+}
+
+// A character as the user can find it: itself and its code point.
+QString CodeOf(const QString& character) {
+  const QList<uint> points = character.toUcs4();
+  const uint point = points.isEmpty() ? 0 : points.front();
+  return QString::number(point, 16).toUpper().rightJustified(4, u'0');
 }
 
 }  // namespace
@@ -124,6 +132,25 @@ HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index
       default:
         return FieldFault{field, header_texts::kStopDateNotIn01, OnFault::Select, kDateLength};
     }
+  };
+}
+
+QString CaptionOf(const Form& form, const QString& field) {
+  const QString label = (field.endsWith(u"Txt") ? field.chopped(3) : field.section(u'_', 0, 0)) +
+                        QStringLiteral("Lbl");
+  if (!form.Has(label) || form.Text(label).trimmed().isEmpty()) return field;
+  return form.Text(label).simplified();
+}
+
+HeaderCheck CodePageCheck(const Form& form, std::function<std::vector<StoredBox>()> stored) {
+  return [&form, stored = std::move(stored)]() -> std::optional<FieldFault> {
+    for (const StoredBox& box : stored()) {
+      const std::optional<QString> bad = FirstUnencodable(box.value);
+      if (!bad) continue;
+      return FieldFault{box.field, header_texts::kNotInCodePage.arg(CaptionOf(form, box.field),
+                                                                    *bad, CodeOf(*bad))};
+    }
+    return std::nullopt;
   };
 }
 

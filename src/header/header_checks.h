@@ -63,6 +63,23 @@ HeaderCheck DateFilledCheck(const Form& form, const QString& field, const QStrin
 // case; selects.
 HeaderCheck ChoiceCheck(const Form& form, const QString& field, const QString& blank,
                         const QString& wrong, const QStringList& choices);
+// What a box stores, as the code-page rule reads it.
+struct StoredBox {
+  QString field;
+  QString value;
+};
+
+// The caption the screen shows beside a field, its runs of blanks made one:
+// the label "Text21Lbl" of Text21, "Text18Lbl" of Text18_1 and Text18_2,
+// "FirstNmLbl" of FirstNmTxt; the field's own name when it has none.
+QString CaptionOf(const Form& form, const QString& field);
+
+// Every value the screen stores must be one that Windows-1253, the code page
+// of the submission file, can hold: the first box that holds a character it
+// cannot is told by its caption, with the character and its code; selects.
+// `stored` gives the values as they would be stored, when the rule runs.
+HeaderCheck CodePageCheck(const Form& form, std::function<std::vector<StoredBox>()> stored);
+
 // The stop date against the selected declaration type (0: 01, 1: 02, 2: 03):
 // an extraordinary declaration needs a valid date, the other two forbid one.
 HeaderCheck StopDateCheck(const Form& form, const QString& field, int type_index);

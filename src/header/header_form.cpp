@@ -3,6 +3,7 @@
 #include "filing/create_file.h"
 #include "filing/totals.h"
 #include "filing/volume_check.h"
+#include "header/box_captions.h"
 #include "header/date_box.h"
 #include "header/texts.h"
 #include "printing/printout.h"
@@ -280,7 +281,9 @@ void HeaderForm::PrintSumCmd_Click() { PrintSummary(vars_, dialogs_, layout_.kin
 
 void HeaderForm::CreateFile_Click() { CreateFile(vars_, dialogs_, layout_.kind); }
 
-void HeaderForm::TotalsCmd_Click() { ShowTotals(vars_, dialogs_, layout_.kind); }
+void HeaderForm::TotalsCmd_Click() {
+  ShowTotals(vars_, dialogs_, layout_.kind, BoxCaptionsOf(layout_.kind));
+}
 
 void HeaderForm::VolumesCmd_Click() { CheckVolumes(vars_, dialogs_, layout_.kind); }
 
@@ -294,10 +297,13 @@ bool HeaderForm::QueryClose() {
 }
 
 void HeaderForm::SaveCmd_Click() {
-  if (vars_.CarryOver) CarryOverLines(vars_, dialogs_, layout_.kind);
   if (vars_.CarryOver) {
+    CarryOverLines(vars_, dialogs_, layout_.kind);
     // Taken over from the previous declaration and locked: stored unchecked.
     SaveData();
+    // Stored and shown in the view state: the copied lines may now take the
+    // new period.
+    if (!vars_.CarryOver) OfferPayrollMove(vars_, dialogs_, layout_.kind);
   } else if (ValidateHeader() && ConfirmCheckDigits(*this, dialogs_, layout_.fields)) {
     SaveData();
   }
@@ -340,6 +346,18 @@ void HeaderForm::ShowSaveError(const StoreError& error) {
                            ? ErrorDescription(error)
                            : ErrorMessage(layout_.save_error_first_line, error);
   dialogs_.Message(text, texts::kAppTitle);
+}
+
+bool HeaderForm::RunChecks(std::vector<HeaderCheck> checks) {
+  checks.push_back(CodePageCheck(*this, [this] {
+    std::vector<StoredBox> boxes;
+    for (const HeaderField& field : layout_.fields) {
+      const StoreAs how = is_new_header_ ? field.insert_as : field.update_as;
+      boxes.push_back({field.name, StoredText(how, Text(field.name))});
+    }
+    return boxes;
+  }));
+  return RunHeaderChecks(*this, dialogs_, checks);
 }
 
 }  // namespace veroxia

@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <optional>
 
+#include "header/header_checks.h"
 #include "header/header_columns.h"
 #include "header/header_layout.h"
 #include "shell/form.h"
@@ -86,6 +87,9 @@ class HeaderForm : public Form {
  protected:
   // Work of the kind once the fields are loaded or taken over.
   virtual void AfterLoad() {}
+  // Runs the kind's rules, then the rule that every value the save would
+  // store fits the code page of the submission file; true when all pass.
+  bool RunChecks(std::vector<HeaderCheck> checks);
   // The text a field shows for a stored value; by default the trimmed text.
   virtual QString Shown(const HeaderField& field, const veroxia::Text& stored) const;
   // The kind's header table. Both throw StoreError.

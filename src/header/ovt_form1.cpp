@@ -135,34 +135,32 @@ bool OvtForm1::ValidateHeader() {
   constexpr OnFault kSelect = OnFault::Select;
   constexpr OnFault kFocus = OnFault::Focus;
   const Form& form = *this;
-  return RunHeaderChecks(
-      *this, dialogs_,
-      {
-          IntegerCheck(form, u"Text2"_s, kNameOvtCode, 3, true, kSelect),
-          FilledCheck(form, u"Text3"_s, kText3Blank, kSelect),
-          FilledCheck(form, u"Text4"_s, kText4Blank, kSelect),
-          NamedCheck(form, u"FirstNmTxt"_s, kNameFirstNm),
-          NamedCheck(form, u"FatherNmTxt"_s, kNameFatherNm),
-          IntegerCheck(form, u"Text5"_s, kNameAme, 10, true, kSelect),
-          IntegerCheck(form, u"Text6"_s, kNameAfm, 9, true, kSelect),
-          FilledCheck(form, u"Text7"_s, kStreetBlank, kFocus),
-          IntegerCheck(form, u"Text9"_s, kNameTk, 5, true, kFocus),
-          FilledCheck(form, u"Text10"_s, kCityBlank, kFocus),
-          IntegerCheck(form, u"Text14_1"_s, kNameDays, 8, false, kSelect),
-          DecimalCheck(form, u"Text15_1"_s, kNameSalaries, 10, kSelect),
-          DecimalCheck(form, u"Text16_1"_s, kNameContributions, 10, kSelect),
-          IntegerCheck(form, u"Text17_1"_s, kNameTotalDays, 8, false, kSelect),
-          IntegerCheck(form, u"Text14_2"_s, kNameDays, 8, false, kSelect),
-          DecimalCheck(form, u"Text15_2"_s, kNameSalaries, 10, kSelect),
-          DecimalCheck(form, u"Text16_2"_s, kNameContributions, 10, kSelect),
-          DecimalCheck(form, u"Text17_2"_s, kNameTotalSalaries, 10, kSelect),
-          IntegerCheck(form, u"Text14_3"_s, kNameDays, 8, false, kSelect),
-          DecimalCheck(form, u"Text15_3"_s, kNameSalaries, 10, kSelect),
-          DecimalCheck(form, u"Text16_3"_s, kNameContributions, 10, kSelect),
-          DecimalCheck(form, u"Text17_3"_s, kNameTotalContributions, 10, kSelect),
-          DateBoxCheck(form, u"FlDateTxt"_s, kNameFlDate),
-          StopDateCheck(form, u"StopDateTxt"_s, SelectedType()),
-      });
+  return RunChecks({
+      IntegerCheck(form, u"Text2"_s, kNameOvtCode, 3, true, kSelect),
+      FilledCheck(form, u"Text3"_s, kText3Blank, kSelect),
+      FilledCheck(form, u"Text4"_s, kText4Blank, kSelect),
+      NamedCheck(form, u"FirstNmTxt"_s, kNameFirstNm),
+      NamedCheck(form, u"FatherNmTxt"_s, kNameFatherNm),
+      IntegerCheck(form, u"Text5"_s, kNameAme, 10, true, kSelect),
+      IntegerCheck(form, u"Text6"_s, kNameAfm, 9, true, kSelect),
+      FilledCheck(form, u"Text7"_s, kStreetBlank, kFocus),
+      IntegerCheck(form, u"Text9"_s, kNameTk, 5, true, kFocus),
+      FilledCheck(form, u"Text10"_s, kCityBlank, kFocus),
+      IntegerCheck(form, u"Text14_1"_s, kNameDays, 8, false, kSelect),
+      DecimalCheck(form, u"Text15_1"_s, kNameSalaries, 10, kSelect),
+      DecimalCheck(form, u"Text16_1"_s, kNameContributions, 10, kSelect),
+      IntegerCheck(form, u"Text17_1"_s, kNameTotalDays, 8, false, kSelect),
+      IntegerCheck(form, u"Text14_2"_s, kNameDays, 8, false, kSelect),
+      DecimalCheck(form, u"Text15_2"_s, kNameSalaries, 10, kSelect),
+      DecimalCheck(form, u"Text16_2"_s, kNameContributions, 10, kSelect),
+      DecimalCheck(form, u"Text17_2"_s, kNameTotalSalaries, 10, kSelect),
+      IntegerCheck(form, u"Text14_3"_s, kNameDays, 8, false, kSelect),
+      DecimalCheck(form, u"Text15_3"_s, kNameSalaries, 10, kSelect),
+      DecimalCheck(form, u"Text16_3"_s, kNameContributions, 10, kSelect),
+      DecimalCheck(form, u"Text17_3"_s, kNameTotalContributions, 10, kSelect),
+      DateBoxCheck(form, u"FlDateTxt"_s, kNameFlDate),
+      StopDateCheck(form, u"StopDateTxt"_s, SelectedType()),
+  });
 }
 
 void OvtForm1::ShowMonthLabels() {

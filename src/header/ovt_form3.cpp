@@ -155,7 +155,7 @@ bool OvtForm3::ValidateHeader() {
       DateBoxCheck(form, u"FlDateTxt"_s, kNameFlDate),
       StopDateCheck(form, u"StopDateTxt"_s, SelectedType()),
   };
-  return RunHeaderChecks(*this, dialogs_, checks);
+  return RunChecks(checks);
 }
 
 QString OvtForm3::Shown(const HeaderField& field, const veroxia::Text& stored) const {

@@ -91,6 +91,9 @@ inline const QString kStopDateNotIn01 = u"ΠΡΟΣΟΧΗ!!Σε δηλώσης τ
 inline const QString kStopDateNotIn03 = u"ΠΡΟΣΟΧΗ!!Σε δηλώσης τύπου '03 ΕΠΑΝΥΠΟΒΟΛΗ' δεν επιτρέπεται να συμπληρώνεται\r\nτο πεδίο 'ΗΜ/ΝΙΑ ΔΙΑΚΟΠΗΣ ΕΡΓΑΣΙΩΝ'."_s;
 inline const QString kStopDateBlank = u"ΠΡΟΣΟΧΗ!!Το πέδιο 'ΗΜ/ΝΙΑ ΔΙΑΚΟΠΗΣ ΕΡΓΑΣΙΩΝ' πρέπει να συμπληρωθεί."_s;
 inline const QString kUnknownFieldError = u"ΠΡΟΣΟΧΗ!! Παρουσιάστηκε άγνωστο λάθος σε κάποιο απο τα πεδία."_s;
+// Ours: a character the submission file's code page cannot hold (the box's
+// caption, the character, its code in hexadecimal).
+inline const QString kNotInCodePage = u"ΠΡΟΣΟΧΗ!! Το πεδίο '%1' έχει τον χαρακτήρα '%2' (U+%3), που δεν μπορεί να γραφτεί στο αρχείο της δήλωσης (κωδικοσελίδα Windows-1253). Διορθώστε ή σβήστε τον χαρακτήρα."_s;
 
 // Messages of the save.
 inline const QString kSaveFailed = u"ΠΡΟΣΟΧΗ!! Η αποθήκευση των στοιχείων δεν ήταν επιτυχής.Παρακαλώ ξαναπροσπαθήστε."_s;

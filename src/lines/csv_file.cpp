@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 using namespace import_texts;
 
 constexpr qint64 kChunk = 1 << 20;
-// A record longer than this is no record of a spreadsheet: a quote that
-// never closes has swallowed the rest of the file.
+// A record longer than this is no record of a spreadsheet (a file without
+// line ends, or a quote that never closes and has swallowed the rest).
 constexpr qsizetype kLongestRecord = 1 << 20;
 
 // Control characters other than tab, CR and LF mark a file that is no text
@@ -191,7 +191,7 @@ bool CsvReader::Next(CsvRecord& record) {
         if (buffer_.size() > kLongestRecord) {
           // Nothing further can be read as records of this file.
           record.fields.clear();
-          record.fault = kUnclosedQuote;
+          record.fault = kRecordTooLong;
           record.fault_field = -1;
           consumed_ = size_;
           buffer_.clear();
@@ -335,6 +335,11 @@ QString CsvReader::Decode(const char* begin, const char* end, QString& fault) co
       while (at + count < stop && count < 4 && IsContinuation(at[count])) ++count;
       fault = kBadBytes.arg(CsvEncodingName(encoding_), Hex(at, count));
       break;
+    }
+    // A byte-order mark belongs before the first line of a file only: in a
+    // field it is an invisible character, left where files were joined.
+    if (length == 3 && at[0] == 0xEF && at[1] == 0xBB && at[2] == 0xBF && fault.isEmpty()) {
+      fault = kBomInField;
     }
     at += length;
   }

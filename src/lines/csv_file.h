@@ -43,7 +43,8 @@ class CsvReader {
 
   // The next record that holds anything (lines with empty fields only are
   // passed over); false at the end of the file. A quoted field that never
-  // closes is the last record, with its fault.
+  // closes is the last record, with its fault; so is a record longer than
+  // 1 MiB. A byte-order mark within a field is a fault of its record.
   bool Next(CsvRecord& record);
 
  private:

@@ -32,13 +32,28 @@ inline const QString kColumnsHelp = u"Κάθε στήλη ονομάζεται �
 
 // What is wrong with one record.
 inline const QString kUnclosedQuote = u"Τα εισαγωγικά που ανοίγουν εδώ δεν κλείνουν."_s;
+inline const QString kRecordTooLong = u"Η γραμμή ξεπερνά το 1 MiB χωρίς να τελειώσει: δεν είναι γραμμή λογιστικού φύλλου και το αρχείο δεν διαβάζεται από εδώ και πέρα. Αν εδώ ανοίγουν εισαγωγικά, ελέγξτε ότι κλείνουν."_s;
+inline const QString kBomInField = u"Η τιμή έχει τον αόρατο χαρακτήρα U+FEFF (σημάδι BOM), που ανήκει μόνο στην αρχή του αρχείου και μένει συνήθως όταν ενώνονται αρχεία. Σβήστε τον."_s;
 inline const QString kTextAfterQuote = u"Μετά τα εισαγωγικά που κλείνουν ακολουθεί κείμενο πριν από το διαχωριστικό."_s;
 inline const QString kBadBytes = u"Μη έγκυρα bytes για %1: %2."_s;
+inline const QString kDuplicateOfStored = u"Διπλή της αποθηκευμένης γραμμής %1 της δήλωσης."_s;
+inline const QString kDuplicateInFile = u"Διπλή της γραμμής %1 του αρχείου."_s;
+inline const QString kAnd = u" και "_s;
 inline const QString kFieldCount = u"Η γραμμή έχει %1 πεδία, ενώ οι στήλες είναι %2."_s;
 inline const QString kTooLong = u"Η τιμή έχει %1 χαρακτήρες, ενώ το πεδίο δέχεται έως %2."_s;
 inline const QString kDateShape = u"Η ημερομηνία γράφεται ΗΗ/ΜΜ/ΕΕΕΕ."_s;
 inline const QString kLineBreak = u"Η τιμή έχει αλλαγή γραμμής."_s;
-inline const QString kNotInCodePage = u"Ο χαρακτήρας '%1' δεν μπορεί να γραφτεί στο αρχείο Ξ.Ρ.Φ. (Windows-1253)."_s;
+
+// A declaration that has lines already: what becomes of them.
+inline const QString kExistingLines = u"Η δήλωση %1 έχει ήδη %2 γραμμές εργαζομένων. Τι να γίνει με τις γραμμές του αρχείου;\r\n\r\n\"Προσθήκη\": καταχωρούνται μετά την τελευταία γραμμή της δήλωσης και οι αποθηκευμένες μένουν όπως είναι.\r\n\"Αντικατάσταση όλων\": οι %2 αποθηκευμένες γραμμές διαγράφονται και στη θέση τους καταχωρούνται οι γραμμές του αρχείου.\r\n\r\nΑν έστω και μία γραμμή του αρχείου έχει λάθος, δεν αλλάζει τίποτα."_s;
+inline const QString kAppendAnswer = u"Προσθήκη"_s;
+inline const QString kReplaceAnswer = u"Αντικατάσταση όλων"_s;
+inline const QString kCancelAnswer = u"Άκυρο"_s;
+inline const QString kPreviewAppend = u"Οι γραμμές του αρχείου θα προστεθούν μετά τις %1 γραμμές της δήλωσης."_s;
+inline const QString kPreviewReplace = u"Οι %1 γραμμές της δήλωσης θα διαγραφούν και στη θέση τους θα καταχωρηθούν οι γραμμές του αρχείου."_s;
+inline const QString kReplaced = u"Οι %1 γραμμές που υπήρχαν διαγράφηκαν."_s;
+// The command line, which asks no question: the option that answers it.
+inline const QString kExistingLinesOption = u"ΠΡΟΣΟΧΗ!! Η δήλωση %1 έχει ήδη %2 γραμμές εργαζομένων. Δώστε --append για να καταχωρηθούν οι γραμμές του αρχείου μετά την τελευταία ή --replace για να αντικαταστήσουν όλες τις αποθηκευμένες. Δεν καταχωρήθηκε καμία γραμμή."_s;
 
 // The preview.
 inline const QString kPreviewTitle = u"ΠΡΟΕΠΙΣΚΟΠΗΣΗ ΕΙΣΑΓΩΓΗΣ"_s;
@@ -61,6 +76,11 @@ inline const QString kRowsFailed = u"ΠΡΟΣΟΧΗ!! %1 από τις %2 γρα
 inline const QString kMoreFaults = u"Φαίνονται τα πρώτα %1 λάθη· υπάρχουν ακόμη %2."_s;
 inline const QString kWarningsVerdict = u"%1 γραμμές έχουν Α.Φ.Μ. ή Α.Μ.Κ.Α. με λάθος ψηφίο ελέγχου."_s;
 inline const QString kWarningsQuestion = u"%1 γραμμές έχουν Α.Φ.Μ. ή Α.Μ.Κ.Α. με λάθος ψηφίο ελέγχου. Να καταχωρηθούν όλες οι γραμμές όπως είναι;"_s;
+inline const QString kRepeatsTitle = u"ΔΙΠΛΕΣ ΓΡΑΜΜΕΣ ΣΤΟ ΑΡΧΕΙΟ ΕΙΣΑΓΩΓΗΣ"_s;
+inline const QString kRepeatsAbout = u"Γραμμές του αρχείου με τα ίδια πεδία %1 όπως μια γραμμή της δήλωσης ή μια προηγούμενη γραμμή του αρχείου."_s;
+inline const QString kRepeatsVerdict = u"%1 από τις %2 γραμμές του αρχείου επαναλαμβάνουν γραμμές. Δεν έχει καταχωρηθεί ακόμη καμία γραμμή."_s;
+inline const QString kRepeatsGo = u"Καταχώρηση και των διπλών"_s;
+inline const QString kRepeatsRefused = u"%1 γραμμές του αρχείου επαναλαμβάνουν γραμμές. Δεν καταχωρήθηκε καμία γραμμή."_s;
 inline const QString kNothingStored = u"Δεν καταχωρήθηκε καμία γραμμή."_s;
 inline const QString kCancelled = u"Η εισαγωγή ακυρώθηκε. Δεν καταχωρήθηκε καμία γραμμή."_s;
 inline const QString kImported = u"Η εισαγωγή ολοκληρώθηκε: καταχωρήθηκαν %1 γραμμές (αριθμοί %2 έως %3)."_s;

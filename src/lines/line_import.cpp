@@ -14,8 +14,10 @@
 #include "rules/check_digits.h"
 #include "rules/texts.h"
 #include "shell/errors.h"
+#include "shell/file_names.h"
 #include "shell/texts.h"
 #include "store/declarations.h"
+#include "store/lines.h"
 
 namespace veroxia {
 
@@ -83,16 +85,6 @@ QString FieldTextOf(const LineField& field, const QString& value, QString& fault
   return text;
 }
 
-// The caption of a field's box as the screen shows it, its runs of blanks
-// made one.
-QString CaptionOf(const LinesLayout& layout, const LineField& field) {
-  QString label = u"Text"_s + BoxOf(field).section(u'_', 0, 0) + u"Lbl"_s;
-  for (const LineCaption& caption : layout.captions) {
-    if (caption.name == label) return caption.text.simplified();
-  }
-  return BoxOf(field);
-}
-
 // A report of the problems of a file: those kept, one a row, and how many
 // more were found.
 Report ProblemReport(const QString& title, const std::vector<ImportFault>& kept, qint64 found,
@@ -110,10 +102,122 @@ Report ProblemReport(const QString& title, const std::vector<ImportFault>& kept,
   return report;
 }
 
+// A part of a line's identity as it is compared: without the blanks around
+// it, and a number without its leading zeros ("01" and "1" are one wage
+// type).
+QString Normal(const QString& part) {
+  QString text = part.trimmed();
+  if (text.isEmpty() || !std::all_of(text.begin(), text.end(), IsDigit)) return text;
+  qsizetype zeros = 0;
+  while (zeros + 1 < text.size() && text[zeros] == u'0') ++zeros;
+  return text.mid(zeros);
+}
+
+// "A, B και C".
+QString Listed(const QStringList& items) {
+  if (items.size() < 2) return items.join(QString());
+  return items.first(items.size() - 1).join(u", "_s) + kAnd + items.last();
+}
+
 }  // namespace
 
+// The identities of the lines met so far, and where each was met: a stored
+// line by its number, a row of the file by its line there. An identity whose
+// parts are each empty or a number that fits its box is packed into one
+// number, so that a payroll of them takes little memory and is looked up at
+// once; any other is kept as text.
+class LineIdentities {
+ public:
+  struct Origin {
+    bool stored = false;
+    qint64 number = 0;
+  };
+
+  // The longest number each part's box holds, in digits.
+  explicit LineIdentities(const std::vector<int>& digits) {
+    long double room = 1;
+    for (const int width : digits) {
+      quint64 base = 1;
+      for (int d = 0; d < width; ++d) base *= 10;
+      bases_.push_back(base + 1);  // 0 for an empty part, the number plus 1 otherwise
+      limits_.push_back(base);
+      room *= static_cast<long double>(base + 1);
+    }
+    packable_ = room < 18e18L;
+  }
+
+  // Notes the identity of the normal parts, met at `origin`, and answers
+  // where it was met before, if it was. A line whose first part (the
+  // person) is empty has no identity.
+  std::optional<Origin> Meet(const std::vector<QString>& parts, Origin origin) {
+    if (parts.empty() || parts.front().isEmpty()) return std::nullopt;
+    const qint64 where = origin.stored ? -1 - origin.number : origin.number;
+    qint64 before = 0;
+    if (const std::optional<quint64> key = Packed(parts)) {
+      const auto it = packed_.constFind(*key);
+      if (it == packed_.constEnd()) {
+        packed_.insert(*key, where);
+        return std::nullopt;
+      }
+      before = it.value();
+    } else {
+      const QString text = QStringList(parts.begin(), parts.end()).join(QChar(0x1F));
+      const auto it = spelled_.constFind(text);
+      if (it == spelled_.constEnd()) {
+        spelled_.insert(text, where);
+        return std::nullopt;
+      }
+      before = it.value();
+    }
+    return before < 0 ? Origin{true, -1 - before} : Origin{false, before};
+  }
+
+ private:
+  std::optional<quint64> Packed(const std::vector<QString>& parts) const {
+    if (!packable_ || parts.size() != bases_.size()) return std::nullopt;
+    quint64 key = 0;
+    quint64 place = 1;
+    for (size_t i = 0; i < parts.size(); ++i) {
+      quint64 value = 0;
+      if (!parts[i].isEmpty()) {
+        bool number = false;
+        value = parts[i].toULongLong(&number);
+        if (!number || value >= limits_[i]) return std::nullopt;
+        ++value;
+      }
+      key += value * place;
+      place *= bases_[i];
+    }
+    return key;
+  }
+
+  std::vector<quint64> bases_;
+  std::vector<quint64> limits_;
+  bool packable_ = false;
+  QHash<quint64, qint64> packed_;
+  QHash<QString, qint64> spelled_;
+};
+
 LineImport::LineImport(LinesForm& form, QString path)
-    : form_(form), path_(std::move(path)), reader_(path_) {}
+    : form_(form), path_(std::move(path)), reader_(path_) {
+  const LinesLayout& layout = form_.Layout();
+  std::vector<int> digits;
+  QStringList captions;
+  for (const QString& column : layout.identity) {
+    for (size_t f = 0; f < layout.fields.size(); ++f) {
+      if (layout.fields[f].column != column) continue;
+      identity_fields_.push_back(f);
+      digits.push_back(layout.fields[f].max_length);
+      // The caption up to the box's number: "ΤΥΠΟΣ ΑΠΟΔΟΧΩΝ (36)".
+      QString caption = CaptionOf(form_, layout.fields[f].name);
+      if (const qsizetype end = caption.indexOf(u')'); end > 0) caption.truncate(end + 1);
+      if (!captions.contains(caption)) captions << caption;
+    }
+  }
+  identity_captions_ = Listed(captions);
+  identities_ = std::make_unique<LineIdentities>(digits);
+  parts_.resize(identity_fields_.size());
+}
 
 LineImport::~LineImport() = default;
 
@@ -183,7 +287,7 @@ Report LineImport::Preview(int rows) {
   report.columns << kPreviewLine;
   for (size_t c = 0; c < field_of_.size(); ++c) {
     const LineField& field = layout.fields[static_cast<size_t>(field_of_[c])];
-    report.columns << names_[static_cast<qsizetype>(c)] + u'\n' + CaptionOf(layout, field);
+    report.columns << names_[static_cast<qsizetype>(c)] + u'\n' + CaptionOf(form_, field.name);
   }
   for (const CsvRecord& row : ahead_) {
     ReportRow shown;
@@ -196,13 +300,48 @@ Report LineImport::Preview(int rows) {
   report.about << kPreviewFile.arg(path_).arg(reader_.Size())
                << kPreviewFormat.arg(CsvEncodingName(reader_.Encoding()), separator)
                << kPreviewRows.arg(ahead_.size());
+  if (existing_ > 0) {
+    report.about
+        << (mode_ == ImportMode::kReplace ? kPreviewReplace : kPreviewAppend).arg(existing_);
+  }
   report.verdict = kPreviewVerdict;
   return report;
+}
+
+void LineImport::SetMode(ImportMode mode, int existing) {
+  mode_ = mode;
+  existing_ = existing;
+}
+
+void LineImport::MeetStoredLines() {
+  QList<QByteArray> columns;
+  for (const size_t f : identity_fields_) columns << form_.Layout().fields[f].column.toLatin1();
+  ForEachLineColumns(form_.Store(), form_.Layout().kind, form_.Id(), columns,
+                     [this](std::optional<int> row_num, const std::vector<Text>& values) {
+                       for (size_t i = 0; i < values.size(); ++i) {
+                         parts_[i] = Normal(values[i].value_or(QString()));
+                       }
+                       identities_->Meet(parts_, {true, row_num.value_or(0)});
+                     });
+}
+
+std::optional<QString> LineImport::Repeat(qint64 line) {
+  for (size_t i = 0; i < identity_fields_.size(); ++i) {
+    parts_[i] = Normal(form_.Text(form_.Layout().fields[identity_fields_[i]].name));
+  }
+  const std::optional<LineIdentities::Origin> before = identities_->Meet(parts_, {false, line});
+  if (!before) return std::nullopt;
+  return (before->stored ? kDuplicateOfStored : kDuplicateInFile).arg(before->number);
 }
 
 void LineImport::Run(Progress* progress) {
   try {
     transaction_.emplace(form_.Store());
+    if (mode_ == ImportMode::kReplace) {
+      replaced_ = DeleteLinesOf(form_.Store(), form_.Layout().kind, form_.Id());
+    } else {
+      MeetStoredLines();
+    }
     first_row_num_ = next_row_num_ = form_.NextRowNum();
     const auto advance = [&] {
       if (progress != nullptr && rows_ % kProgressRows == 0 &&
@@ -279,6 +418,11 @@ void LineImport::Take(const CsvRecord& record) {
     const qsizetype at = names_.indexOf(column);
     return fail(column, at >= 0 ? record.fields[at] : QString(), fault->message);
   }
+  if (const std::optional<QString> repeat = Repeat(record.line)) {
+    const int c = column_of_field_[identity_fields_.front()];
+    Fault(repeats_, {record.line, names_[c], record.fields[c], *repeat});
+    ++repeated_rows_;
+  }
   bool warned = false;
   for (qsizetype c = 0; c < names_.size(); ++c) {
     const LineField& field = fields[static_cast<size_t>(field_of_[static_cast<size_t>(c)])];
@@ -289,15 +433,7 @@ void LineImport::Take(const CsvRecord& record) {
     }
   }
   warned_rows_ += warned ? 1 : 0;
-  const LineTexts texts = form_.StoredTexts();
-  for (size_t f = 0; f < texts.size(); ++f) {
-    if (!texts[f]) continue;
-    if (const std::optional<QString> bad = FirstUnencodable(*texts[f])) {
-      const int c = column_of_field_[f];
-      return fail(names_[c], record.fields[c], kNotInCodePage.arg(*bad));
-    }
-  }
-  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, texts);
+  if (failed_rows_ == 0) form_.StoreLine(next_row_num_++, form_.StoredTexts());
 }
 
 Report LineImport::FaultReport() const {
@@ -310,8 +446,15 @@ Report LineImport::WarningReport() const {
                        kWarningsVerdict.arg(warned_rows_));
 }
 
+Report LineImport::RepeatReport() const {
+  Report report = ProblemReport(kRepeatsTitle, repeats_, repeated_rows_,
+                                kRepeatsVerdict.arg(repeated_rows_).arg(rows_));
+  report.about << kRepeatsAbout.arg(identity_captions_);
+  return report;
+}
+
 bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,
-                 const std::function<void(int first)>& stored) {
+                 const std::function<void(int first)>& stored, ImportAnswers answers) {
   const auto tell = [&](const QString& text) { dialogs.Message(text, texts::kAppTitle); };
   const auto store_problem = [&](const StoreError& error) {
     tell(ErrorMessage(lines_texts::kStoreProblem, error) + u"\r\n"_s + kNothingStored);
@@ -320,14 +463,24 @@ bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,
   if (path.isEmpty()) path = dialogs.AskFile({kImportTitle, kCsvFilter, {}, false});
   if (path.isEmpty()) return false;
   LineImport import(form, path);
+  int existing = 0;
   try {
     if (const QString refusal = import.Open(); !refusal.isEmpty()) {
       tell(refusal);
       return false;
     }
+    existing = CountLines(form.Store(), form.Layout().kind, form.Id());
   } catch (const StoreError& error) {
     return store_problem(error);
   }
+  std::optional<ImportMode>& mode = answers.mode;
+  if (!mode && existing > 0) {
+    const int answer = dialogs.Choose(kExistingLines.arg(form.Id()).arg(existing), kImportTitle,
+                                      {kAppendAnswer, kReplaceAnswer, kCancelAnswer});
+    if (answer != 0 && answer != 1) return false;  // Άκυρο, or the box closed
+    mode = answer == 0 ? ImportMode::kAppend : ImportMode::kReplace;
+  }
+  import.SetMode(mode.value_or(ImportMode::kAppend), existing);
   if (!dialogs.ConfirmReport(import.Preview(), kPreviewGo)) return false;
   dialogs.RunWithProgress(kProgress.arg(QFileInfo(path).fileName()),
                           [&](Progress& progress) { import.Run(&progress); });
@@ -339,6 +492,23 @@ bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,
   if (import.FailedRows() > 0) {
     dialogs.ShowReport(import.FaultReport());
     return false;
+  }
+  // The repeated lines are listed with the choice to store them; nothing is
+  // kept until the answer.
+  if (import.RepeatedRows() > 0) {
+    const Report repeats = import.RepeatReport();
+    if (!answers.keep_repeats) {
+      if (!dialogs.ConfirmReport(repeats, kRepeatsGo)) {
+        tell(kNothingStored);
+        return false;
+      }
+    } else {
+      dialogs.ShowReport(repeats);
+      if (!*answers.keep_repeats) {
+        tell(kRepeatsRefused.arg(import.RepeatedRows()));
+        return false;
+      }
+    }
   }
   if (import.WarnedRows() > 0) {
     dialogs.ShowReport(import.WarningReport());
@@ -354,7 +524,9 @@ bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path,
     return store_problem(error);
   }
   if (stored) stored(import.FirstRowNum());
-  tell(kImported.arg(import.Rows()).arg(import.FirstRowNum()).arg(import.LastRowNum()));
+  QString outcome = kImported.arg(import.Rows()).arg(import.FirstRowNum()).arg(import.LastRowNum());
+  if (import.Replaced() > 0) outcome += u' ' + kReplaced.arg(import.Replaced());
+  tell(outcome);
   return true;
 }
 
@@ -400,10 +572,11 @@ int ExportLines(Database& db, Kind kind, int id, const QString& path) {
   return count;
 }
 
-bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString path) {
+bool ExportLinesTo(const Vars& vars, Kind kind, Dialogs& dialogs, QString path) {
+  const int id = vars.DeclarationId;
   if (path.isEmpty()) {
     const QString suggested =
-        u"%1-%2.csv"_s.arg(kind == Kind::Common ? u"lines"_s : u"workers"_s).arg(id);
+        DeclarationFileName(kind, id, vars.PeriodFrom, vars.PeriodTo, u"csv"_s);
     path = dialogs.AskFile({kExportTitle, kCsvFilter, suggested, true});
   }
   if (path.isEmpty()) return false;
@@ -412,7 +585,7 @@ bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString pa
   {
     BusyPointer busy(dialogs);
     try {
-      count = ExportLines(db, kind, id, path);
+      count = ExportLines(*vars.StoreConnection, kind, id, path);
     } catch (const StoreError& error) {
       outcome = ErrorMessage(texts::kFileNotWritten.arg(path), error);
     } catch (const FileError& error) {

@@ -7,11 +7,15 @@
 // screen would refuse, the import refuses with the same message. The rows
 // are stored, numbered on from the declaration's last line, in one
 // transaction that is kept only when every row passed; otherwise nothing is
-// stored and every failing row is reported at once. The file is read row by
-// row: memory does not grow with it.
+// stored and every failing row is reported at once. A row that repeats a
+// line (the kind's identity: register number, payroll month and wage type),
+// stored or an earlier row of the file, is reported too and stored only when
+// the user agrees. The file is read row by row: memory grows with it only by
+// the identities of its lines.
 
 #include <QString>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -30,6 +34,20 @@ struct ImportFault {
   QString value;
   QString message;
 };
+
+// What becomes of the lines a declaration has already.
+enum class ImportMode {
+  kAppend,   // they stay; the file's rows are numbered on from the last
+  kReplace,  // they are deleted, in the same transaction as the rows are stored
+};
+
+// The answers the caller gives beforehand; what is not given is asked.
+struct ImportAnswers {
+  std::optional<ImportMode> mode;    // into a declaration that has lines
+  std::optional<bool> keep_repeats;  // store the rows that repeat a line
+};
+
+class LineIdentities;
 
 class LineImport {
  public:
@@ -50,6 +68,9 @@ class LineImport {
   QString Open();
   // The first rows of the file under the fields their columns go to.
   Report Preview(int rows = 10);
+  // What becomes of the declaration's lines, `existing` of them (Append
+  // unless told).
+  void SetMode(ImportMode mode, int existing);
   // Reads, checks and stores every row in one transaction, which it leaves
   // open for Commit. `progress` hears how far it got and may stop it.
   void Run(Progress* progress);
@@ -63,19 +84,29 @@ class LineImport {
   const std::vector<ImportFault>& Faults() const { return faults_; }
   qint64 WarnedRows() const { return warned_rows_; }
   const std::vector<ImportFault>& Warnings() const { return warnings_; }
+  qint64 RepeatedRows() const { return repeated_rows_; }
+  const std::vector<ImportFault>& Repeats() const { return repeats_; }
   int FirstRowNum() const { return first_row_num_; }
   int LastRowNum() const { return next_row_num_ - 1; }
+  // The lines deleted to be replaced (kept only when committed).
+  int Replaced() const { return replaced_; }
 
   // Every failing row, for the user to read or save.
   Report FaultReport() const;
   // Every wrong check digit.
   Report WarningReport() const;
+  // Every row that repeats a line, and the line it repeats.
+  Report RepeatReport() const;
 
  private:
   QString MapColumns(const QStringList& names);
   void Take(const CsvRecord& record);
   void Fault(std::vector<ImportFault>& list, const ImportFault& fault);
   QString ColumnOfField(const QString& field) const;
+  // Where the line in the fields was met before, told as a message; nothing
+  // when it is the first of its identity.
+  std::optional<QString> Repeat(qint64 line);
+  void MeetStoredLines();
 
   LinesForm& form_;
   QString path_;
@@ -85,6 +116,13 @@ class LineImport {
   std::vector<Control*> boxes_;       // the form's control of each column
   std::vector<int> column_of_field_;  // the column of each layout field
   std::vector<CsvRecord> ahead_;      // rows read before Run (the preview)
+  ImportMode mode_ = ImportMode::kAppend;
+  int existing_ = 0;
+  int replaced_ = 0;
+  std::vector<size_t> identity_fields_;  // the layout fields of the identity
+  QString identity_captions_;            // their captions, for the messages
+  std::unique_ptr<LineIdentities> identities_;
+  std::vector<QString> parts_;  // the identity of one line, reused
   std::optional<Transaction> transaction_;
   std::optional<StoreError> store_failure_;
   bool cancelled_ = false;
@@ -92,6 +130,8 @@ class LineImport {
   qint64 failed_rows_ = 0;
   qint64 warned_rows_ = 0;
   qint64 warnings_found_ = 0;
+  qint64 repeated_rows_ = 0;
+  std::vector<ImportFault> repeats_;
   std::vector<ImportFault> faults_;
   std::vector<ImportFault> warnings_;
   int first_row_num_ = 0;
@@ -100,11 +140,14 @@ class LineImport {
 
 // The import as the user meets it: the file chooser unless `path` is given,
 // the preview, the progress bar, then the report of every failing row, or
-// the question on wrong check digits, and the outcome. Once lines are
-// stored, `stored` is given the number of the first before the user is told.
-// True when lines were stored.
+// the questions on repeated lines and on wrong check digits, and the
+// outcome. A declaration that has lines already is asked about (Append,
+// Replace all, Cancel) and the repeated lines are listed with a button to
+// store them, unless `answers` gives the answer. Once lines are stored,
+// `stored` is given the number of the first before the user is told. True
+// when lines were stored.
 bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path = {},
-                 const std::function<void(int first)>& stored = {});
+                 const std::function<void(int first)>& stored = {}, ImportAnswers answers = {});
 
 // Writes the declaration's lines, in the order of their numbers, to a CSV file
 // of the shape the import reads: UTF-8 with its byte-order mark, ";" between
@@ -113,8 +156,9 @@ bool ImportLines(LinesForm& form, Dialogs& dialogs, QString path = {},
 // that cannot be written throws StoreError with the system's error number.
 int ExportLines(Database& db, Kind kind, int id, const QString& path);
 
-// The export as the user meets it: the file chooser unless `path` is given,
+// The export of the declaration of `vars` as the user meets it: the file
+// chooser unless `path` is given (offering the declaration's own file name),
 // then the outcome. True when written.
-bool ExportLinesTo(Database& db, Kind kind, int id, Dialogs& dialogs, QString path = {});
+bool ExportLinesTo(const Vars& vars, Kind kind, Dialogs& dialogs, QString path = {});
 
 }  // namespace veroxia

@@ -32,6 +32,11 @@ const QString kFirst = u"FirstCmd"_s;
 const QString kPrev = u"PrevCmd"_s;
 const QString kNext = u"Nextcmd"_s;
 const QString kLast = u"LastCmd"_s;
+const QString kPositionLbl = u"PositionLbl"_s;
+const QString kGoto = u"GotoCmd"_s;
+const QString kGotoBox = u"GotoTxt"_s;
+// The line numbers a declaration can reach.
+constexpr int kGotoDigits = 6;
 
 const QString kInsuredIdColumn = u"insured_id"_s;
 
@@ -63,6 +68,9 @@ LinesForm::LinesForm(Vars& vars, Dialogs& dialogs, Screens& screens, const Lines
   Declare(kImport, import_texts::kImportCmd);
   Declare(kExport, import_texts::kExportCmd);
   for (const QString& name : NavigationButtons()) Declare(name);
+  Declare(kPositionLbl);
+  Declare(kGotoBox, {}, kGotoDigits);
+  Declare(kGoto, kGotoCmd);
 }
 
 QStringList LinesForm::NavigationButtons() { return {kFirst, kPrev, kNext, kLast}; }
@@ -71,7 +79,7 @@ QStringList LinesForm::FocusOrder() const {
   QStringList order;
   for (const LineField& field : layout_.fields) order << field.name;
   order << kOk << kNew << kUpDate << kCancel << kClear << kDelete << kSeek << kBack
-        << NavigationButtons() << kImport << kExport;
+        << NavigationButtons() << kGotoBox << kGoto << kImport << kExport;
   return order;
 }
 
@@ -82,7 +90,7 @@ void LinesForm::Load() {
   icon_path_ = FileExists(icon) ? icon : QString();
   SetEntryButtons();
   try {
-    line_set_.Open(Store(), layout_.kind, Id());
+    OpenLines();
   } catch (const StoreError& error) {
     // Nothing can be shown or stored safely: only the return is left.
     EnableLineFields(false);
@@ -137,6 +145,7 @@ void LinesForm::ShowLine() {
       text = FieldText(stored);
     }
   }
+  ShowPosition();
 }
 
 void LinesForm::ClearFields() {
@@ -156,6 +165,9 @@ void LinesForm::SetEntryButtons() {
   // Lines come and go by file in new mode, not while one is being corrected.
   At(kImport).enabled = !edit_mode_;
   At(kExport).enabled = !edit_mode_;
+  At(kGotoBox).enabled = false;
+  At(kGoto).enabled = false;
+  ShowPosition();
 }
 
 void LinesForm::SetBrowseButtons() {
@@ -167,6 +179,9 @@ void LinesForm::SetBrowseButtons() {
   At(kNew).visible = true;
   At(kImport).enabled = true;
   At(kExport).enabled = true;
+  At(kGotoBox).enabled = true;
+  At(kGoto).enabled = true;
+  ShowPosition();
 }
 
 void LinesForm::EnableLineFields(bool enabled) {
@@ -241,7 +256,53 @@ void LinesForm::CancelCmd_Click() {
   if (has_lines_) EnableLineFields(false);
 }
 
-void LinesForm::OpenLines() { line_set_.Open(Store(), layout_.kind, Id()); }
+void LinesForm::OpenLines() {
+  line_set_.Open(Store(), layout_.kind, Id());
+  line_count_ = line_set_.Size();
+}
+
+void LinesForm::ClearCmd_Click() {
+  ClearFields();
+  if (At(FirstField()).enabled) GotFocus(FirstField());
+}
+
+void LinesForm::ShowPosition() {
+  QString& text = At(kPositionLbl).text;
+  const QString count = QString::number(line_count_);
+  if (!At(kNew).visible && !edit_mode_) {
+    text = kPositionNew.arg(count);  // a line being typed, not yet stored
+  } else if (current_row_num_.isEmpty()) {
+    text = kPositionUnknown.arg(count);
+  } else {
+    text = kPosition.arg(current_row_num_, count);
+  }
+}
+
+void LinesForm::GotoCmd_Click() {
+  if (!At(kGoto).enabled) return;
+  bool number = false;
+  const int row_num = Text(kGotoBox).trimmed().toInt(&number);
+  const qsizetype shown = line_set_.Position();
+  bool found = false;
+  if (number && row_num >= 1) {
+    try {
+      found = line_set_.FindRowNum(row_num);
+    } catch (const StoreError& error) {
+      line_set_.MoveTo(shown);
+      ShowStoreError(error);
+      return;
+    }
+  }
+  if (!found) {
+    line_set_.MoveTo(shown);
+    const bool in_range = number && row_num >= 1 && row_num <= line_count_;
+    dialogs_.Message(in_range ? kGotoMissing.arg(row_num) : kGotoRange.arg(line_count_),
+                     texts::kAppTitle);
+    Select(kGotoBox, static_cast<int>(Text(kGotoBox).size()));
+    return;
+  }
+  ShowLine();
+}
 
 void LinesForm::ShowRememberedLine() {
   try {
@@ -306,7 +367,19 @@ void LinesForm::ShowStoreError(const StoreError& error) {
 }
 
 const std::vector<HeaderCheck>& LinesForm::Checks() {
-  if (checks_.empty()) checks_ = LineChecks();
+  if (checks_.empty()) {
+    checks_ = LineChecks();
+    // Last, what every field stores must fit the submission file.
+    checks_.push_back(CodePageCheck(*this, [this] {
+      const LineTexts texts = StoredTexts();
+      std::vector<StoredBox> boxes;
+      boxes.reserve(texts.size());
+      for (size_t f = 0; f < texts.size(); ++f) {
+        boxes.push_back({layout_.fields[f].name, texts[f].value_or(QString())});
+      }
+      return boxes;
+    }));
+  }
   return checks_;
 }
 
@@ -334,6 +407,8 @@ void LinesForm::InsertData() {
   }
   current_row_num_ = QString::number(row_num);
   has_lines_ = true;
+  ++line_count_;
+  ShowPosition();
   if (!layout_.busy_until_insert_message) busy.reset();
   dialogs_.Message(kInsertDone, texts::kAppTitle);
 }
@@ -384,6 +459,7 @@ void LinesForm::DeleteLine() {
     transaction.Commit();
     // The set holds no line numbers: only the deleted line's key goes.
     line_set_.Remove(current_rowid_);
+    line_count_ = line_set_.Size();
   } catch (const StoreError& error) {
     busy.reset();
     ShowStoreError(error);
@@ -413,7 +489,7 @@ void LinesForm::ImportCmd_Click() {
   });
 }
 
-void LinesForm::ExportCmd_Click() { ExportLinesTo(Store(), layout_.kind, Id(), dialogs_); }
+void LinesForm::ExportCmd_Click() { ExportLinesTo(vars_, layout_.kind, dialogs_); }
 
 void LinesForm::SeekLine() {
   const qsizetype shown = line_set_.Position();

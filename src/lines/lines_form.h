@@ -59,11 +59,14 @@ class LinesForm : public Form {
   void NewCmd_Click();
   void UpDateCmd_Click();
   void OkCmd_Click();
-  void ClearCmd_Click() { ClearFields(); }
+  // Clears the fields; the focus goes to the first one.
+  void ClearCmd_Click();
   void CancelCmd_Click();
   void DeleteCmd_Click() { DeleteLine(); }
   void SeekCmd_Click() { SeekLine(); }
   void BackCmd_Click();
+  // Shows the line whose number is typed in GotoTxt (browse mode).
+  void GotoCmd_Click();
   // Lines brought in from a CSV file, or written out to one (browse and new
   // modes).
   void ImportCmd_Click();
@@ -104,6 +107,8 @@ class LinesForm : public Form {
   const LinesLayout& Layout() const { return layout_; }
   QString IconPath() const { return icon_path_; }
   QString FirstField() const { return layout_.fields.front().name; }
+  // The stored lines of the declaration, as far as the screen knows.
+  qsizetype LineCount() const { return line_count_; }
   // The order the tab key follows: the fields in box order, then the buttons.
   QStringList FocusOrder() const;
   static QStringList NavigationButtons();
@@ -130,6 +135,8 @@ class LinesForm : public Form {
   void ShowRememberedLine();
   void ShowStoreError(const StoreError& error);
   void EnterNewMode();
+  // The line shown and the number of lines, in PositionLbl.
+  void ShowPosition();
 
   const LinesLayout& layout_;
   std::vector<HeaderCheck> checks_;
@@ -141,6 +148,7 @@ class LinesForm : public Form {
   QString current_insured_id_;
   QString current_row_num_;
   qint64 current_rowid_ = 0;
+  qsizetype line_count_ = 0;
   QString icon_path_;
 };
 

@@ -39,6 +39,10 @@ struct LinesLayout {
   std::vector<LineField> fields;  // in box order, which is the tab order
   QString close_title;            // title of the close question
   QString cannot_delete;          // a delete that found no line
+  // The columns that tell a person's lines apart, the person's register
+  // number first: two lines alike in all of them are one line twice. A line
+  // without a register number stands for a person of its own.
+  QStringList identity;
   // The kind's finer points of the same behaviour.
   bool busy_until_insert_message = true;  // the pointer is restored after the message
   bool clear_moves_focus = false;         // ClearFields puts the focus on the first field

@@ -19,6 +19,8 @@ LinesLayout MakeLayout() {
   layout.title = kOvtForm2Title;
   layout.close_title = kHeading;
   layout.cannot_delete = kCannotDelete;
+  // One line per person, payroll month and wage type.
+  layout.identity = {u"insured_id"_s, u"sal_month"_s, u"sal_year"_s, u"wage_code"_s};
   layout.captions = {
       {u"HeadingLbl"_s, kHeading}, {u"Text18Lbl"_s, kLbl18}, {u"Text18SepLbl"_s, u"/"_s},
       {u"Text19Lbl"_s, kLbl19},    {u"Text20Lbl"_s, kLbl20}, {u"Text21Lbl"_s, kLbl21},

@@ -16,6 +16,8 @@ LinesLayout MakeLayout() {
   layout.title = kOvtForm4Title;
   layout.close_title = kHeading;
   layout.cannot_delete = kConCannotDelete;
+  // One line per worker and wage type: the month is the declaration's.
+  layout.identity = {u"insured_id"_s, u"wage_code"_s};
   layout.busy_until_insert_message = false;
   layout.clear_moves_focus = true;
   layout.captions = {

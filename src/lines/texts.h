@@ -152,6 +152,14 @@ inline const QString kConCannotDelete = u"ΠΡΟΣΟΧΗ!!Η έγγραφη δε
 
 // Our own texts, for what the program must still answer clearly.
 inline const QString kLineGone = u"ΠΡΟΣΟΧΗ!! Η εγγραφή δεν βρέθηκε όπως εμφανίστηκε. Η διόρθωση δεν αποθηκεύτηκε."_s;
+// Where the screen stands among the declaration's lines, and the move to a
+// line by its number.
+inline const QString kPosition = u"Γραμμή %1 από %2"_s;
+inline const QString kPositionNew = u"Νέα γραμμή (γραμμές της δήλωσης: %1)"_s;
+inline const QString kPositionUnknown = u"Γραμμή χωρίς αριθμό (γραμμές της δήλωσης: %1)"_s;
+inline const QString kGotoCmd = u"Μετάβαση στη γραμμή"_s;
+inline const QString kGotoRange = u"ΠΡΟΣΟΧΗ!! Δώστε αριθμό γραμμής από 1 έως %1."_s;
+inline const QString kGotoMissing = u"ΠΡΟΣΟΧΗ!! Η γραμμή %1 δεν βρέθηκε."_s;
 // clang-format on
 
 }  // namespace veroxia::lines_texts

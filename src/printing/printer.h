@@ -14,6 +14,10 @@ struct PrinterError {
   QString description;
 };
 
+// The failure of a system call that set errno to `code`: its number and what
+// it means, in our words (FileErrorDescription).
+PrinterError SystemPrinterError(int code);
+
 class Printer {
  public:
   virtual ~Printer() = default;

@@ -11,14 +11,18 @@ namespace veroxia {
 
 // Prints the pages in the set way: font size "10", then the font name, the
 // first page, a new page before each further one, the end of the document.
-// Throws what the pages or the printer throw.
-void PrintPages(Pages& pages, Printer& printer);
+// Each page printed is told to `progress`, when given; when it answers that
+// the user wants to stop, printing stops before the end of the document and
+// the answer is false. Throws what the pages or the printer throw.
+bool PrintPages(Pages& pages, Printer& printer, Progress* progress = nullptr);
 
 // Prints the printout of the declaration vars.DeclarationId of that kind on
 // the printer, with the busy pointer. On any failure the normal pointer is
-// restored, the printing-problem message shown and the job abandoned; answers
-// false then.
-bool RunPrintout(Vars& vars, Dialogs& dialogs, Kind kind, Printout printout, Printer& printer);
+// restored, the printing-problem message shown and the job abandoned; when
+// the user stops it through `progress`, the job is abandoned and nothing
+// told. Answers false in both cases.
+bool RunPrintout(Vars& vars, Dialogs& dialogs, Kind kind, Printout printout, Printer& printer,
+                 Progress* progress = nullptr);
 
 // "Εκτύπωση συγκεντρωτικού": the summary form, through the print preview.
 void PrintSummary(Vars& vars, Dialogs& dialogs, Kind kind);

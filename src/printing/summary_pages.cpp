@@ -99,10 +99,11 @@ QString ConstructionSummary(const ConEmployerRow& h) {
   page.Line(pt::kSumDays2, FieldNumber(h.sum_days));
   page.Empty();
   page.Line(pt::kSumTotal);
-  page.Line(pt::kSalaries, Amount(h.sum_salaries));
+  // Both totals are read as texts: a Null prints nothing.
+  page.Line(pt::kSalaries, FormatAmount(FieldText(h.sum_salaries)));
   page.Empty();
   page.Line(pt::kSumTotal);
-  page.Line(pt::kContributions, Amount(h.sum_contr));
+  page.Line(pt::kContributions, FormatAmount(FieldText(h.sum_contr)));
   SummaryClosing(page);
   return page.Take();
 }

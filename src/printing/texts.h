@@ -138,6 +138,27 @@ inline const QString kConCessation = u"ΠΑΥΣΗ ΟΙΚΟΔΟΜΙΚΩΝ ΕΡΓ�
 inline const QString kNoHeader = u"Η δήλωση δεν έχει αποθηκευμένη επικεφαλίδα."_s;
 inline const QString kNoValue = u"Το στοιχείο «%1» της επικεφαλίδας δεν έχει τιμή."_s;
 inline const QString kNotANumber = u"Η τιμή '%1' του στοιχείου «%2» στη γραμμή %3 δεν είναι αριθμός."_s;
+
+// The print preview: its window, the progress of its pages and the PDF file.
+inline const QString kComposing = u"Σύνθεση των σελίδων της εκτύπωσης..."_s;
+inline const QString kSendingToPrinter = u"Αποστολή των σελίδων στον εκτυπωτή..."_s;
+inline const QString kSavingPdf = u"Αποθήκευση των σελίδων σε αρχείο PDF..."_s;
+inline const QString kPreviewTitle = u"Προεπισκόπηση εκτύπωσης"_s;
+inline const QString kPrintCmd = u"Εκτύπωση..."_s;
+inline const QString kSavePdfCmd = u"Αποθήκευση ως PDF..."_s;
+inline const QString kCloseCmd = u"Κλείσιμο"_s;
+inline const QString kPageLabel = u"Σελίδα"_s;
+inline const QString kOfPages = u"από %1"_s;
+inline const QString kFirstPage = u"Πρώτη σελίδα"_s;
+inline const QString kPreviousPage = u"Προηγούμενη σελίδα"_s;
+inline const QString kNextPage = u"Επόμενη σελίδα"_s;
+inline const QString kLastPageCmd = u"Τελευταία σελίδα"_s;
+inline const QString kZoomOut = u"Σμίκρυνση"_s;
+inline const QString kZoomIn = u"Μεγέθυνση"_s;
+inline const QString kFitWidth = u"Πλάτος σελίδας"_s;
+inline const QString kFitPage = u"Ολόκληρη σελίδα"_s;
+inline const QString kSavePdfTitle = u"Αποθήκευση της εκτύπωσης ως PDF"_s;
+inline const QString kPdfFilter = u"Αρχεία PDF (*.pdf)"_s;
 // clang-format on
 
 }  // namespace veroxia::printing_texts

@@ -1,6 +1,7 @@
 #include "rules/formats.h"
 
 #include "rules/numbers.h"
+#include "rules/texts.h"
 
 namespace veroxia {
 
@@ -21,7 +22,7 @@ QString Increment(QString digits) {
 }  // namespace
 
 QString FormatAmount(const QString& text) {
-  const QString trimmed = text.trimmed();
+  const QString trimmed = TrimBlanks(text);
   const auto decimal = ReadDecimal(trimmed);
   if (!decimal) return trimmed;
   // Scale to hundredths exactly, rounding half away from zero.
@@ -53,7 +54,7 @@ QString FormatAmount(const QString& text) {
 }
 
 QString AmountDigits(const QString& text, int width, bool noFormat) {
-  QString result = text.trimmed();
+  QString result = TrimBlanks(text);
   if (!noFormat) result = FormatAmount(result);
   result.remove(u'.').remove(u',');
   if (result.size() < width) result.prepend(QString(width - result.size(), u'0'));
@@ -67,7 +68,7 @@ QString AmountText(const QString& text, int width, bool noPad) {
 }
 
 QString PadText(const QString& text, int width, bool padRight) {
-  QString result = text.trimmed();
+  QString result = TrimBlanks(text);
   if (result.size() < width) {
     const QString blanks(width - result.size(), u' ');
     result = padRight ? result + blanks : blanks + result;
@@ -76,7 +77,7 @@ QString PadText(const QString& text, int width, bool padRight) {
 }
 
 QString DateDigits(const QString& text) {
-  QString result = text.trimmed();
+  QString result = TrimBlanks(text);
   if (result.isEmpty()) return QString(8, u' ');
   result.remove(u'/');
   if (result.size() < 8) result.prepend(QString(8 - result.size(), u'0'));

@@ -7,7 +7,8 @@
 namespace veroxia {
 
 // The "##,##0.00" format with Greek separators: 1234,5 gives "1.234,50".
-// A text that is not a number comes back trimmed and unformatted.
+// A text that is not a number comes back unformatted, without its end
+// blanks. The formatters below take off only the blanks at either end too.
 QString FormatAmount(const QString& text);
 QString AmountDigits(const QString& text, int width, bool noFormat);
 QString AmountText(const QString& text, int width, bool noPad);

@@ -105,4 +105,13 @@ double LeadingValue(const QString& text) {
   return ok && std::isfinite(value) ? value : 0;
 }
 
+std::optional<int> MonthIndex(const QString& month, const QString& year) {
+  bool month_ok = false;
+  bool year_ok = false;
+  const int m = month.trimmed().toInt(&month_ok, 10);
+  const int y = year.trimmed().toInt(&year_ok, 10);
+  if (!month_ok || !year_ok || m < 1 || m > 12 || y < 0 || y > 9999) return std::nullopt;
+  return y * 12 + m - 1;
+}
+
 }  // namespace veroxia

@@ -27,4 +27,9 @@ struct Decimal {
 };
 std::optional<Decimal> ReadDecimal(const QString& text);
 
+// A month of a year as one count of months, so that periods compare and
+// move by months (March 2002 and April 2002 are one apart): from the texts of
+// a month 1 to 12 and a year, blanks around them allowed; nothing otherwise.
+std::optional<int> MonthIndex(const QString& month, const QString& year);
+
 }  // namespace veroxia

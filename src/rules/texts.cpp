@@ -4,8 +4,16 @@
 
 namespace veroxia {
 
+QString TrimBlanks(const QString& text) {
+  qsizetype first = 0;
+  qsizetype end = text.size();
+  while (first < end && text[first] == u' ') ++first;
+  while (end > first && text[end - 1] == u' ') --end;
+  return text.sliced(first, end - first);
+}
+
 QString FieldText(const std::optional<QString>& value) {
-  return value ? value->trimmed() : QString();
+  return value ? TrimBlanks(*value) : QString();
 }
 
 QString FieldNumber(const std::optional<QString>& value) {

@@ -6,7 +6,10 @@
 
 namespace veroxia {
 
-// Null gives an empty text, anything else the trimmed text.
+// The text without the blanks (U+0020) at either end; a tab, a line break or
+// any other space stays, as another program may have stored it.
+QString TrimBlanks(const QString& text);
+// Null gives an empty text, anything else the text without its end blanks.
 QString FieldText(const std::optional<QString>& value);
 // Null gives "0", anything else the text untrimmed.
 QString FieldNumber(const std::optional<QString>& value);

@@ -37,6 +37,17 @@ class Progress {
   virtual bool Advance(qint64 done, qint64 total) = 0;
 };
 
+// A printout as the print preview takes it.
+struct PrintJob {
+  // Prints the whole printout on the printer it is given, telling `progress`
+  // of every page. Answers false when it failed (the user has been told and
+  // the job abandoned) or when the user stopped it (the job abandoned,
+  // nothing told).
+  std::function<bool(Printer&, Progress&)> draw;
+  // The name the printout is offered under when it is saved as a PDF file.
+  QString pdf_name;
+};
+
 // What the insured-person search dialog hands back: the key as typed (empty
 // when the user cancelled) and its kind, "AMA" for a register number or
 // "NAME" for a surname.
@@ -63,11 +74,9 @@ class Dialogs {
   // The target-directory dialog, modal: the full path of the chosen
   // directory, or an empty text when the user cancelled.
   virtual QString AskDirectory(DirPurpose purpose) = 0;
-  // The print preview of a printout, modal: `draw` prints the whole printout
-  // on the printer it is given and answers false when it failed (the user
-  // has been told and the job abandoned). The preview draws the pages to
-  // show them, and again on the printer or file the user sends them to.
-  virtual void PrintPreview(const std::function<bool(Printer&)>& draw) = 0;
+  // The print preview of a printout, modal. It draws the pages once to show
+  // them, and again on the printer or file the user sends them to.
+  virtual void PrintPreview(const PrintJob& job) = 0;
   // A report in its own window, modal, until the user closes it.
   virtual void ShowReport(const Report& report) = 0;
   // A report in its own window with a button captioned `go_on` beside the

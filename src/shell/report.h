@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 namespace veroxia {
@@ -24,6 +25,11 @@ struct Report {
   QString file_name;  // offered when it is saved as text; "report.txt" when empty
   bool AllHold() const;
 };
+
+// The caption of the box in which a screen shows a stored column, so that a
+// report names a value as the user sees it: of the header screen when
+// `in_header`, else of the line screen.
+using BoxCaption = std::function<QString(bool in_header, const QString& column)>;
 
 // The report as lines of text: what it is of, the headings and each row with
 // the columns parted by tabs, then the notes and the verdict.

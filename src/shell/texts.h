@@ -68,6 +68,13 @@ inline const QString kStoreMissing = u"ΠΡΟΣΟΧΗ!! Το αρχείο 'QorDb
 inline const QString kStoreCritical =
     u"Παρουσιάστηκε κρίσιμο λάθος εφαρμογής.Το πρόγραμμα θα κλείσει,παρακαλώ ξαναδοκιμάστε!! "_s;
 inline const QString kCarryOverFailed = u"Παρουσιάστηκε πρόβλημα στην μεταφόρα των εγγραφών."_s;
+// After the carry-over: the copied lines' payroll months may follow the new
+// period. The periods as "04/2002" or "04/2002 έως 06/2002".
+inline const QString kPayrollMoveQuestion = u"Οι γραμμές των εργαζομένων αντιγράφηκαν με τη μισθολογική περίοδο της προηγούμενης δήλωσης (%1). Να μεταφερθεί η μισθολογική περίοδός τους στη νέα περίοδο (%2);"_s;
+inline const QString kPayrollMoveMonth = u"%1 σε %2, γραμμές: %3"_s;
+inline const QString kPayrollMoveLeft = u"Μένουν όπως αντιγράφηκαν οι γραμμές με μισθολογική περίοδο έξω από την περίοδο της προηγούμενης δήλωσης, γραμμές: %1."_s;
+inline const QString kPayrollMoveFailed = u"ΠΡΟΣΟΧΗ!! Η μισθολογική περίοδος των γραμμών δεν άλλαξε. Οι γραμμές έμειναν όπως αντιγράφηκαν."_s;
+inline const QString kPeriodFromTo = u"%1 έως %2"_s;
 inline const QString kErrorCode = u"Κωδικός λάθους: "_s;
 inline const QString kErrorDescription = u"Περιγραφή λάθους: "_s;
 
@@ -78,6 +85,24 @@ inline const QString kDirLabel1 =
     u"Επιλέξτε τον κατάλογο στον οποίο θέλετε να αποθηκευτεί το αρχείο Ξ.Ρ.Φ."_s;
 inline const QString kDirDriveUnreadable =
     u"ΠΡΟΣΟXΗ!! Παρουσιάστηκε πρόβλημα στην ανάγνωση του δίσκου '"_s;
+// The same dialog, where the volumes written before are to be checked.
+inline const QString kDirCheckTitle = u"Έλεγχος τόμων Ξ.Ρ.Φ"_s;
+inline const QString kDirCheckLabel1 =
+    u"Επιλέξτε τον κατάλογο στον οποίο βρίσκονται οι τόμοι του αρχείου Ξ.Ρ.Φ. που θέλετε να ελεγχθούν."_s;
+// Its path box and its button for a new folder; %1 is the path or the name
+// the user typed.
+inline const QString kDirPathLbl = u"Διαδρομή:"_s;
+inline const QString kDirPathHint = u"γράψτε διαδρομή και πατήστε Enter"_s;
+inline const QString kDirPathUnreadable =
+    u"ΠΡΟΣΟΧΗ!! Ο κατάλογος '%1' δεν υπάρχει ή δεν μπορεί να διαβαστεί."_s;
+inline const QString kDirNewFolder = u"Νέος φάκελος"_s;
+inline const QString kDirNewFolderName = u"Όνομα του νέου φακέλου:"_s;
+inline const QString kDirFolderNoName = u"ΠΡΟΣΟΧΗ!! Δεν δόθηκε όνομα για τον νέο φάκελο."_s;
+inline const QString kDirFolderSeparator =
+    u"ΠΡΟΣΟΧΗ!! Το όνομα '%1' δεν μπορεί να δοθεί σε φάκελο: περιέχει τον χαρακτήρα / ή \\."_s;
+inline const QString kDirFolderExists = u"ΠΡΟΣΟΧΗ!! Υπάρχει ήδη φάκελος ή αρχείο με το όνομα '%1'."_s;
+inline const QString kDirFolderNotMade =
+    u"ΠΡΟΣΟΧΗ!! Ο φάκελος '%1' δεν μπορεί να δημιουργηθεί σε αυτόν τον κατάλογο."_s;
 
 // Our own texts, for cases the program must still answer clearly.
 inline const QString kNoIdLeft =

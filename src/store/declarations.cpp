@@ -127,4 +127,30 @@ int InsertLinesFromScratch(Database& db, Kind kind) {
   return db.Prepare(Sql("INSERT INTO %1 SELECT * FROM %2", tables.lines, tables.scratch)).Run();
 }
 
+std::vector<PayrollMonth> PayrollMonths(Database& db, int id) {
+  Statement& statement = db.Prepare(
+      "SELECT sal_month, sal_year, count(*) FROM QOR_EMPLOYEES WHERE id = ? "
+      "GROUP BY sal_month, sal_year");
+  statement.Bind(1, id);
+  std::vector<PayrollMonth> months;
+  while (statement.Next()) {
+    months.push_back({statement.Value(0), statement.Value(1), statement.Int(2)});
+  }
+  return months;
+}
+
+int SetPayrollMonth(Database& db, int id, const PayrollMonth& from, const QString& month,
+                    const QString& year) {
+  return db
+      .Prepare(
+          "UPDATE QOR_EMPLOYEES SET sal_month = ?, sal_year = ? "
+          "WHERE id = ? AND sal_month = ? AND sal_year = ?")
+      .Bind(1, month)
+      .Bind(2, year)
+      .Bind(3, id)
+      .Bind(4, from.month)
+      .Bind(5, from.year)
+      .Run();
+}
+
 }  // namespace veroxia

@@ -79,4 +79,18 @@ int MoveScratchToNextId(Database& db, Kind kind);
 // Appends every scratch line to the kind's lines table.
 int InsertLinesFromScratch(Database& db, Kind kind);
 
+// A payroll month and year as the common lines store them (Null kept), and
+// how many lines of a declaration have exactly these texts.
+struct PayrollMonth {
+  Text month;
+  Text year;
+  int lines = 0;
+};
+// The payroll months of a common declaration's lines, each once.
+std::vector<PayrollMonth> PayrollMonths(Database& db, int id);
+// Gives the lines of a common declaration whose payroll month and year are
+// exactly those of `from` (not Null) the new ones; answers how many changed.
+int SetPayrollMonth(Database& db, int id, const PayrollMonth& from, const QString& month,
+                    const QString& year);
+
 }  // namespace veroxia

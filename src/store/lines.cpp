@@ -81,4 +81,21 @@ int CloseNumberGap(Database& db, Kind kind, int id, int row_num) {
       .Run();
 }
 
+int DeleteLinesOf(Database& db, Kind kind, int id) {
+  return db.Prepare(Sql("DELETE FROM %lines WHERE id = ?", kind)).Bind(1, id).Run();
+}
+
+void ForEachLineColumns(
+    Database& db, Kind kind, int id, const QList<QByteArray>& columns,
+    const std::function<void(std::optional<int> row_num, const std::vector<Text>& values)>& take) {
+  Statement& statement = db.Prepare(Sql("SELECT row_num, ", kind) + columns.join(", ") +
+                                    Sql(" FROM %lines WHERE id = ?", kind));
+  statement.Bind(1, id);
+  std::vector<Text> values(static_cast<size_t>(columns.size()));
+  while (statement.Next()) {
+    for (size_t c = 0; c < values.size(); ++c) values[c] = statement.Value(static_cast<int>(c) + 1);
+    take(statement.IsNull(0) ? std::nullopt : std::optional<int>(statement.Int(0)), values);
+  }
+}
+
 }  // namespace veroxia

@@ -5,6 +5,8 @@
 // Both kinds share them; the kind gives the table. Every value is bound.
 
 #include <QByteArray>
+#include <QList>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -59,6 +61,15 @@ bool RowNumInUse(Database& db, Kind kind, int id, int row_num);
 
 // Moves every line after row_num one number down; answers how many moved.
 int CloseNumberGap(Database& db, Kind kind, int id, int row_num);
+
+// Deletes every line of a declaration; answers how many went.
+int DeleteLinesOf(Database& db, Kind kind, int id);
+
+// Hands `take` the number and the named columns of every line of a
+// declaration, in no particular order. The columns are the kind's own names.
+void ForEachLineColumns(
+    Database& db, Kind kind, int id, const QList<QByteArray>& columns,
+    const std::function<void(std::optional<int> row_num, const std::vector<Text>& values)>& take);
 
 namespace detail {
 QByteArray LineAddressCondition();  // "rowid = ? AND id = ? AND ..."

@@ -1,4 +1,5 @@
-// veroxia-cli run as a process on a store made here.
+// veroxia-cli run as a process on a store made here: the lines of each kind
+// out to a CSV file and back, every command, the printouts as PDF.
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,9 @@
 #include "filing/texts.h"
 #include "filing/totals.h"
 #include "filing/volume_check.h"
+#include "lines/import_texts.h"
+#include "lines/ovt_form2_fixture.h"
+#include "lines/ovt_form4_fixture.h"
 #include "printing/texts.h"
 #include "shell/store_texts.h"
 #include "shell/texts.h"
@@ -20,6 +24,7 @@
 #include "store/texts.h"
 #include "support/fakes.h"
 #include "support/files.h"
+#include "support/lines_csv.h"
 #include "support/pdf_text.h"
 #include "support/printers.h"
 #include "support/store_rows.h"
@@ -29,6 +34,110 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace filing_texts;
+using namespace import_texts;
+
+struct CliRun {
+  int status = -1;  // also when it did not end
+  QString err;
+  QString out;
+};
+
+CliRun Cli(const QStringList& args) {
+  QProcess process;
+  process.start(QStringLiteral(VEROXIA_CLI), args);
+  if (!process.waitForFinished(60'000)) return {};
+  return {process.exitCode(), QString::fromUtf8(process.readAllStandardError()),
+          QString::fromUtf8(process.readAllStandardOutput())};
+}
+
+// Every row of a lines table without its declaration's id.
+std::vector<std::vector<Text>> LinesOf(const QString& store, const char* table, int id) {
+  std::vector<std::vector<Text>> rows;
+  for (auto row : testing::DumpTable(*Database::Open(store, StorePassword()), table)) {
+    if (row[0] != QString::number(id)) continue;
+    row.erase(row.begin());
+    rows.push_back(row);
+  }
+  return rows;
+}
+
+TEST(Cli, LinesGoOutToACsvFileAndComeBackTheSame) {
+  testing::TempStore store;
+  store.Open().Exec(
+      "INSERT INTO QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year) VALUES "
+      "(1, '01', '2002', '03', '2002'), (2, '01', '2002', '03', '2002');"
+      "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year) VALUES (1, '02', '2003'), "
+      "(2, '02', '2003')");
+  store.vars.StoreConnection.reset();
+  const QString path = store.Path();
+  const struct {
+    const char* kind;
+    const char* table;
+    std::vector<testing::Line> lines;
+    QString bad_field;
+  } kinds[] = {
+      {"common",
+       "QOR_EMPLOYEES",
+       {testing::ValidCommonLine(u"100000001"_s, u"Άλφα \"Α\"; Β"_s),
+        testing::With(testing::ValidCommonLine(u"100000002"_s), u"Text27"_s, u"ΟΧΙ"_s),
+        testing::ValidCommonLine(u"100000000"_s)},
+       u"Text37"_s},
+      {"construction",
+       "QOR_CON_EMPLOYEES",
+       {testing::ValidConLine(u"200000001"_s),
+        testing::With(testing::ValidConLine(u"200000000"_s), u"Text30"_s, u"αγαμος"_s)},
+       u"Text39"_s},
+  };
+  for (const auto& k : kinds) {
+    SCOPED_TRACE(k.kind);
+    const QString kind = QString::fromLatin1(k.kind);
+    const QString in = store.Dir() + u"/in.csv"_s, out1 = store.Dir() + u"/out1.csv"_s,
+                  out2 = store.Dir() + u"/out2.csv"_s, bad = store.Dir() + u"/bad.csv"_s;
+    const Kind which = kind == u"common" ? Kind::Common : Kind::Construction;
+    for (const auto& [file, csv] :
+         {std::pair(in, testing::Csv(which, k.lines)),
+          std::pair(bad, testing::Csv(which, {k.lines[0],
+                                              testing::With(k.lines[0], k.bad_field, u"x"_s)}))}) {
+      ASSERT_TRUE(testing::WriteFile(file, csv));
+    }
+    const int lines = static_cast<int>(k.lines.size());
+    const CliRun imported = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, in});
+    EXPECT_EQ(imported.status, 0) << imported.err.toStdString();
+    EXPECT_EQ(imported.err, kImported.arg(lines).arg(1).arg(lines) + u'\n');
+    EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"2"_s, out2}).status, 0);
+    EXPECT_EQ(testing::FileBytes(out2).count('\n'), 1);  // the names alone
+    EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"1"_s, out1}).status, 0);
+    EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, kind, u"2"_s, out1}).status, 0);
+    EXPECT_EQ(Cli({u"--store"_s, path, u"export-lines"_s, kind, u"2"_s, out2}).status, 0);
+    EXPECT_EQ(testing::FileBytes(out2), testing::FileBytes(out1));
+    EXPECT_EQ(LinesOf(path, k.table, 2), LinesOf(path, k.table, 1));
+    EXPECT_EQ(LinesOf(path, k.table, 1).size(), k.lines.size());
+
+    // Into a declaration with lines only with an option: appended, rows
+    // repeating stored lines are refused unless kept; replaced, the lines
+    // come back as they were.
+    const auto before = LinesOf(path, k.table, 1);
+    const CliRun refused = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, bad});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err, kExistingLinesOption.arg(1).arg(lines) + u'\n');
+    const CliRun failed = Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, bad, u"--append"_s});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_TRUE(failed.err.startsWith(kReportLine + u'\t')) << failed.err.toStdString();
+    EXPECT_TRUE(failed.err.endsWith(kRowsFailed.arg(1).arg(2) + u'\n'));
+    const QStringList again{u"--store"_s, path, u"import"_s, kind, u"1"_s, in, u"--append"_s};
+    const CliRun repeated = Cli(again);
+    EXPECT_EQ(repeated.status, 1);
+    EXPECT_TRUE(repeated.err.endsWith(kRepeatsRefused.arg(lines) + u'\n'));
+    EXPECT_EQ(Cli(again + QStringList{u"--keep-duplicates"_s}).status, 0);
+    EXPECT_EQ(LinesOf(path, k.table, 1).size(), 2 * k.lines.size());
+    EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, kind, u"1"_s, u"--replace"_s, in}).status, 0);
+    EXPECT_EQ(LinesOf(path, k.table, 1), before);
+  }
+  EXPECT_EQ(Cli({u"--store"_s, path, u"import"_s, u"common"_s, u"one"_s, u"in.csv"_s}).status, 2);
+  EXPECT_EQ(
+      Cli({u"import"_s, u"common"_s, u"1"_s, u"in.csv"_s, u"--append"_s, u"--replace"_s}).status,
+      2);
+}
 
 // A common declaration 3 of two lines, submitted, and a construction
 // declaration 4 without lines or submission date. A backup of that store is
@@ -45,8 +154,8 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       "INSERT INTO QOR_CON_EMPLOYERS (id, from_month, from_year, sum_days, sum_salaries, "
       "sum_contr) VALUES (4, '07', '2004', '0', '0', '1');"
       "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, full_day, all_days, insurance_days, "
-      "salary, payed_contr) VALUES (3, 1, '1', '1', '1', '25', '10,25', '0,5'), "
-      "(3, 2, '1', '0', '0', '25', '10,25', '0,5')");
+      "salary, payed_contr, sal_month, sal_year) VALUES (3, 1, '1', '1', '1', '25', '10,25', "
+      "'0,5', '01', '2002'), (3, 2, '1', '0', '0', '25', '10,25', '0,5', '03', '2002')");
   const QString path = store.Path(), out = store.Dir() + u"/out"_s;
   const QString backup = MakeBackup(db, path, StorePassword(), QDateTime(QDate(2001, 2, 3), {}));
   const QString leftover = backup + u".part"_s;  // of a backup that was killed
@@ -77,6 +186,7 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       // clang-format off
       {{u"list"_s, u"--store"_s, path}, 0, u"common\t3\t01/2002-03/2002\t01\t2\nconstruction\t4\t07/2004\t\t0\n"_s, {}},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out}, 0, {}, kWrittenIn + out + u"'.\n"_s},
+      {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"3"_s, out}, 0, {}, kOldVolumes.arg(out) + u'\n' + kOldVolumesReplaced.arg(u"CSL01"_s) + u'\n' + kOldVolumesQuestion + u'\n' + kWrittenIn + out + u"'.\n"_s},
       {{u"--store"_s, path, u"volumes"_s, u"construction"_s, u"4"_s, out}, 1, {}, kNoDateLine1 + u'\n' + kNoDateLine2 + u'\n'},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"1"_s, out}, 1, {}, kWriteFailed},
       {{u"--store"_s, path, u"volumes"_s, u"common"_s, u"32767"_s, out}, 1, {}, kWriteFailed},
@@ -127,23 +237,17 @@ TEST(Cli, EveryCommandWithItsOutputAndStatus) {
       ASSERT_EQ(lock.emplace(path).Take(), StoreLock::Outcome::kHeld);
     }
     const QByteArray before = testing::FileBytes(path);
-    QProcess process;
-    process.start(QStringLiteral(VEROXIA_CLI), c.args);
-    ASSERT_TRUE(process.waitForFinished(60'000));
-    const QString run_out = QString::fromUtf8(process.readAllStandardOutput());
-    const QString run_err = QString::fromUtf8(process.readAllStandardError());
-    EXPECT_EQ(process.exitCode(), c.status) << run_err.toStdString();
-    EXPECT_TRUE(run_out.startsWith(c.out) && run_out.isEmpty() == c.out.isEmpty());
-    EXPECT_TRUE(run_err.startsWith(c.err)) << run_err.toStdString();
-    EXPECT_EQ(run_err.isEmpty(), c.err.isEmpty() && c.status == 0);
+    const CliRun run = Cli(c.args);
+    EXPECT_EQ(run.status, c.status) << run.err.toStdString();
+    EXPECT_TRUE(run.out.startsWith(c.out) && run.out.isEmpty() == c.out.isEmpty());
+    EXPECT_TRUE(run.err.startsWith(c.err)) << run.err.toStdString();
+    EXPECT_EQ(run.err.isEmpty(), c.err.isEmpty() && c.status == 0);
     // Only a restore that went through changes the store.
-    if (!c.args.contains(u"restore"_s) || c.status != 0) {
-      EXPECT_EQ(testing::FileBytes(path), before);
-    }
+    const bool restored = c.args.contains(u"restore"_s) && c.status == 0;
+    EXPECT_TRUE(restored || testing::FileBytes(path) == before);
     // Pages are parted by form feeds: two pages of the declaration with lines.
-    if (c.args.contains(u"print"_s)) {
-      EXPECT_EQ(run_out.count(u'\f'), c.args.contains(u"3"_s) && c.args.contains(u"declaration"_s));
-    }
+    const bool two_pages = c.args.contains(u"3"_s) && c.args.contains(u"declaration"_s);
+    EXPECT_TRUE(!c.args.contains(u"print"_s) || run.out.count(u'\f') == two_pages);
   }
   // The backup made first, the one of the command, and the store replaced.
   EXPECT_EQ(ListBackups(path).size(), 3);
@@ -180,23 +284,19 @@ TEST(Cli, PrintoutsAsPdfGiveBackTheirPages) {
   for (const char* printout : {"summary", "declaration"}) {
     for (const char* kind : {"common", "construction"}) {
       SCOPED_TRACE(std::string(printout) + " " + kind);
-      const QStringList args{u"--store"_s,
-                             store.Path(),
-                             u"print"_s,
-                             QString::fromLatin1(printout),
-                             QString::fromLatin1(kind),
-                             u"1"_s};
+      const QStringList args =
+          u"--store|%1|print|%2|%3|1"_s
+              .arg(store.Path(), QLatin1StringView(printout), QLatin1StringView(kind))
+              .split(u'|');
       const QString pdf = store.Dir() + u"/out.pdf"_s;
-      QProcess text, file;
-      text.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--text"_s});
-      file.start(QStringLiteral(VEROXIA_CLI), args + QStringList{u"--pdf"_s, pdf});
-      ASSERT_TRUE(text.waitForFinished(60'000) && file.waitForFinished(60'000));
-      ASSERT_EQ(file.exitCode(), 0) << file.readAllStandardError().toStdString();
-      ASSERT_EQ(text.exitCode(), 0);
+      const CliRun file = Cli(args + QStringList{u"--pdf"_s, pdf});
+      const CliRun text = Cli(args + QStringList{u"--text"_s});
+      ASSERT_EQ(file.status, 0) << file.err.toStdString();
+      ASSERT_EQ(text.status, 0);
       // The pages as text, without the blanks at the ends of the lines and
       // the empty lines below the last text, which a PDF does not hold.
       QList<QStringList> expected;
-      for (const QString& page : QString::fromUtf8(text.readAllStandardOutput()).split(u'\f')) {
+      for (const QString& page : text.out.split(u'\f')) {
         QStringList lines;
         for (const QString& line : page.split(u'\n')) {
           qsizetype end = line.size();

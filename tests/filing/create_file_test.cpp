@@ -6,8 +6,10 @@
 #include <QFile>
 
 #include "filing/texts.h"
+#include "filing/volume_files.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/files.h"
 #include "support/store_rows.h"
 
 namespace veroxia {
@@ -15,11 +17,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using namespace filing_texts;
-
-QByteArray Bytes(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<none>");
-}
 
 // One run of "Δημιουργία αρχείου" from the user's side: what is asked, what
 // is told, what is written, and that the store is left as it was.
@@ -74,17 +71,17 @@ TEST(CreateFile, EveryWayOutOfARun) {
     QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
     if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
-    const QByteArray stored = Bytes(store.Path());
+    const QByteArray stored = testing::FileBytes(store.Path());
 
     testing::FakeDialogs dialogs;
     const QString directory = QString::fromLatin1(c.directory).replace(u"out"_s, out);
     dialogs.directories.push_back(directory);
-    dialogs.answers = {true};  // the totals (never agreeing here): go on
+    dialogs.answers = {true, true};  // the totals (never agreeing here), the old CSL01: go on
     store.vars.DeclarationId = 1;
     EXPECT_EQ(CreateFile(store.vars, dialogs, Kind::Common), c.outcome);
 
     EXPECT_EQ(dialogs.directories_asked, c.asked ? 1 : 0);
-    EXPECT_EQ(dialogs.questions.size(), c.asked ? 1u : 0u);
+    EXPECT_EQ(dialogs.questions.size(), c.asked ? 1u + (directory == out) : 0u);
     if (c.message.isEmpty()) {
       EXPECT_TRUE(dialogs.messages.empty());
     } else {
@@ -94,10 +91,11 @@ TEST(CreateFile, EveryWayOutOfARun) {
       EXPECT_TRUE(dialogs.messages[0].text.startsWith(expected))
           << dialogs.messages[0].text.toStdString();
     }
-    EXPECT_TRUE(Bytes(out + u"/CSL01"_s).startsWith(c.volume));
-    EXPECT_EQ(QDir(out).entryList(QDir::Files | QDir::Hidden), QStringList{u"CSL01"_s});
+    EXPECT_TRUE(testing::FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
+    EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"CSL01"_s});
     EXPECT_FALSE(dialogs.busy);
-    EXPECT_EQ(Bytes(store.Path()), stored);
+    EXPECT_EQ(testing::FileBytes(store.Path()), stored);
   }
 }
 
@@ -122,6 +120,67 @@ TEST(CreateFile, TotalsThatDoNotAgreeAskFirst) {
       EXPECT_EQ(dialogs.questions[0].title, kFileTitle);
       EXPECT_EQ(dialogs.last_style, AskStyle::Question);
     }
+  }
+}
+
+// The volumes of an earlier run in the directory, of the kind and of the
+// other kind, are named in one question before anything is written: No keeps
+// them and tells nothing more, Yes leaves the new set in their place beside
+// the other files. A write cut short there (taking CSL03 away) is finished
+// first.
+TEST(CreateFile, OldVolumesAreNamedFirst) {
+  const struct {
+    Kind kind;
+    const char* before;  // the files in the directory
+    bool unfinished;
+    bool yes;
+    const char* named;  // of the kind, then of the other kind; none: no question
+    const char* after;
+  } cases[] = {
+      // clang-format off
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL03 CSL1 x", true, false, "CSL01, CSL02|CSC01", "CSC01 CSL01 CSL02 CSL1 x"},
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL1 x", false, true, "CSL01, CSL02|CSC01", "CSL01 CSL1 x"},
+      {Kind::Construction, "CSC02 CSL01", false, true, "CSC02|CSL01", "CSC01"},
+      {Kind::Common, "x", false, true, nullptr, "CSL01 x"},
+      // clang-format on
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.before);
+    testing::TempStore store;
+    Database& db = store.Open();
+    db.Exec(  // totals that do not agree: asked about first
+        "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days) VALUES (1, '05/03/2002', '1');"
+        "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, sum_days) VALUES (1, '05/03/2002', '1')");
+    const QString out = store.Dir() + u"/out"_s;
+    ASSERT_TRUE(QDir().mkdir(out));
+    for (const QString& name : QString::fromLatin1(c.before).split(u' ')) {
+      ASSERT_TRUE(testing::WriteFile(out + u'/' + name, name.toLatin1()));
+    }
+    if (c.unfinished) {
+      VolumeFiles files(out, {u"CSL03"_s});
+      files.before_step = [](int step) { step == 1 ? throw step : void(); };
+      EXPECT_THROW(VolumeWriter(db, Kind::Common, 1).Write(files), int);
+    }
+    testing::FakeDialogs dialogs;
+    dialogs.directories.push_back(out);
+    dialogs.answers = {true, c.yes};
+    store.vars.DeclarationId = 1;
+    EXPECT_EQ(CreateFile(store.vars, dialogs, c.kind),
+              c.yes ? FileOutcome::kWritten : FileOutcome::kCancelled);
+    ASSERT_EQ(dialogs.questions.size(), c.named ? 2u : 1u);
+    if (c.named) {
+      const QStringList named = QString::fromLatin1(c.named).split(u'|');
+      EXPECT_EQ(dialogs.questions[1].text,
+                QStringList({kOldVolumes.arg(out), kOldVolumesReplaced.arg(named[0]),
+                             kOldVolumesOtherKind.arg(named[1]), kOldVolumesQuestion})
+                    .join(u"\r\n"_s));
+    }
+    EXPECT_EQ(dialogs.messages.size(), c.yes ? 1u : 0u);
+    EXPECT_EQ(
+        QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join(u' '),
+        QLatin1StringView(c.after));
+    const QString first = c.kind == Kind::Common ? u"CSL01"_s : u"CSC01"_s;
+    EXPECT_TRUE(testing::FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()));
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "header/box_captions.h"
 #include "support/fakes.h"
 #include "support/printers.h"
 
@@ -27,11 +28,12 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   testing::TempStore store;
   Database& db = store.Open();
   db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, saldate1, saldate2, saldate3, total_days1, "
-      "total_days2, "
+      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, from_month, from_year, to_month, to_year, "
+      "saldate1, saldate2, saldate3, total_days1, total_days2, "
       "total_days3, total_days, total_salaries1, total_salaries2, total_salaries3, "
       "total_salaries, total_contributions1, total_contributions2, total_contributions3, "
-      "total_contributions) VALUES (1, '123456789', '01/2026', '02/2026', '03/2026', '26', '20', "
+      "total_contributions) VALUES (1, '123456789', '01', '2026', '03', '2026', '01/2026', "
+      "'02/2026', '03/2026', '26', '20', "
       "'0', '55', "
       "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');"
       "INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year, insurance_days, salary, "
@@ -66,8 +68,26 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   EXPECT_EQ(report->check_digits[1].column, u"amka"_s);
   EXPECT_EQ(report->check_digits[2].text, u"090000044"_s);
   EXPECT_FALSE(report->AllAgree());
-  const Report shown = TotalsWindow(*report);
-  EXPECT_EQ(ReportText(shown).size(), 1 + 12 + 2 + 3 + 1);
+  // The notes name the boxes, in the order of the lines; line 3's payroll
+  // month lies outside the period. The report is offered under the
+  // declaration's name.
+  store.vars.DeclarationId = 1;
+  store.vars.PeriodFrom = u"012026"_s;
+  store.vars.PeriodTo = u"032026"_s;
+  testing::FakeDialogs dialogs;
+  ShowTotals(store.vars, dialogs, Kind::Common, BoxCaptionsOf(Kind::Common));
+  const Report& shown = dialogs.reports.at(0);
+  QStringList boxes;  // each note up to its box
+  for (const QString& note : shown.notes) boxes << note.section(u'\'', 0, 1);
+  EXPECT_EQ(boxes, (QStringList{u"Η επικεφαλίδα έχει στο πεδίο 'Α.Φ.Μ. (6)"_s,
+                                u"Η γραμμή 1 έχει στο πεδίο 'Α.Μ.Κ.Α (20)"_s,
+                                u"Η γραμμή 2 έχει στο πεδίο 'Α.Φ.Μ. (26)"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΜΙΣΘΟΛ. ΠΕΡΙΟΔΟΣ (33) MM/EEEE"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΑΠΟΔΟΧΕΣ (39)"_s,
+                                u"Η γραμμή 4 έχει στο πεδίο 'ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ (46)"_s}));
+  EXPECT_TRUE(shown.notes[3].endsWith(
+      u"'12/2025', έξω από την περίοδο της δήλωσης (01/2026 έως 03/2026)."_s));
+  EXPECT_EQ(shown.file_name, u"OVT-common-1-2026-01_2026-03.txt"_s);
   EXPECT_FALSE(shown.rows.back().holds);
   EXPECT_EQ(shown.verdict, kTotalsDisagree);
 }

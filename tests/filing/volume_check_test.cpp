@@ -19,9 +19,7 @@ using namespace Qt::StringLiterals;
 using enum VolumeFault;
 
 void Write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-  file.write(bytes);
+  ASSERT_TRUE(testing::WriteFile(path, bytes));
 }
 
 // Declaration 1 of the kind with a header of a Greek name and `lines` lines
@@ -44,6 +42,7 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     int lines, shared, volumes, persons;
   } cases[] = {
       {Kind::Common, 0, 0, 1, 0},
+      {Kind::Construction, 0, 0, 1, 0},
       {Kind::Common, 3, 2, 1, 2},
       {Kind::Common, 15'000, 4'000, 3, 4'000},
       {Kind::Construction, 14'753, 40, 2, 40},
@@ -65,29 +64,12 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
     EXPECT_EQ(check.volumes.size(), static_cast<size_t>(c.volumes));
     EXPECT_EQ(check.lines, c.lines);
     EXPECT_EQ(check.persons, c.persons);
-    // A heading, a line per volume, the totals, the declaration's counts and
-    // the verdict.
+    // A heading, a line per volume, the totals, the declaration's counts, a
+    // heading and a line per header field, and the verdict.
     const QStringList text = ReportText(VolumeCheckWindow(check));
-    EXPECT_EQ(text.size(), c.volumes + 4);
+    EXPECT_EQ(text.size(), c.volumes + 5 + static_cast<int>(expected->header.size()));
     EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
   }
-}
-
-// The writer's groups as the store holds them: blanks after an id and an
-// empty id open a group at every line.
-TEST(VolumeCheck, ExpectedPersonsAreTheWritersGroups) {
-  testing::TempStore store;
-  Database& db = store.Open();
-  db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id) VALUES (1);"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '111'), (1, 2, '111'), "
-      "(1, 3, '222'), (1, 4, '333 '), (1, 5, '333 '), (1, 6, '444'), (1, 7, ''), (1, 8, '444')");
-  const std::optional<VolumeCounts> counts = ExpectedCounts(db, Kind::Common, 1);
-  ASSERT_TRUE(counts);
-  EXPECT_EQ(counts->persons, 6);
-  EXPECT_EQ(counts->lines, 8);
-  EXPECT_FALSE(ExpectedCounts(db, Kind::Common, 2));
-  EXPECT_FALSE(ExpectedCounts(db, Kind::Construction, 1));
 }
 
 // Every byte from 0x80 on, one at a time in a header: those Windows-1253
@@ -214,12 +196,113 @@ TEST_F(BrokenVolumes, CountsAgainstTheStore) {
   EXPECT_EQ(check.findings[0].wanted, 15'001);
   EXPECT_EQ(check.findings[1].fault, kPersonCount);
   EXPECT_EQ(check.findings[1].wanted, 4'001);
-  EXPECT_EQ(VerifyVolumes(written(), VolumeCounts{Kind::Construction, 4'000, 15'000})
+  EXPECT_EQ(VerifyVolumes(written(), VolumeCounts{Kind::Construction, 4'000, 15'000, {}})
                 .findings.at(0)
                 .fault,
             kOtherKind);
   EXPECT_EQ(VerifyVolumes(store_.Dir() + u"/none"_s).findings.at(0).fault, kNoDirectory);
   EXPECT_EQ(VerifyVolumes(store_.Dir()).findings.at(0).fault, kNoVolumes);
+}
+
+// Putting a set in place stopped before each of its steps, as a kill would
+// stop it, or failing there: three older volumes and a note, one new volume.
+// Until the next write finishes it the check refuses the directory; then it
+// holds the old set (stopped before the journal, or undone) or the new one.
+TEST(VolumeFilesPutInPlace, StoppedAtEachStep) {
+  const QStringList old{u"CSC01"_s, u"CSL01"_s, u"CSL02"_s, u"notes.txt"_s};
+  const struct {
+    int step;          // -1: not stopped
+    bool fails;        // a failure there, not a kill
+    const char* left;  // the directory's files when stopped
+    bool refused;      // by the check, as a write cut short
+    bool is_new;       // once finished
+  } cases[] = {
+      {0, false, "CSC01 CSL01 CSL02 notes.txt", true, false},
+      {1, false, "CSC01 CSL01 CSL02 notes.txt", true, true},  // the journal written
+      {2, false, "CSL01 CSL02 notes.txt", true, true},
+      {3, false, "CSL01 notes.txt", true, true},  // the old CSL01
+      {4, false, "notes.txt", true, true},
+      {5, false, "CSL01 notes.txt", true, true},  // the new CSL01
+      {3, true, "CSC01 CSL01 CSL02 notes.txt", false, false},
+      {-1, false, "CSL01 notes.txt", false, true},
+  };
+  testing::TempStore store;
+  Database& db = store.Open();
+  db.Exec("INSERT INTO QOR_EMPLOYERS (id, CreateFlDate) VALUES (1, '05/03/2002')");
+  for (const auto& c : cases) {
+    SCOPED_TRACE(&c - cases);
+    const QString dir = store.Dir() + u"/out"_s + QString::number(&c - cases);
+    ASSERT_TRUE(QDir().mkdir(dir));
+    for (const QString& name : old) Write(dir + u'/' + name, name.toLatin1());
+    VolumeFiles files(dir, old.first(3));
+    files.before_step = [&](int step) {
+      if (step == c.step && c.fails) throw FileError{EIO, {}};
+      if (step == c.step) throw step;
+    };
+    try {
+      VolumeWriter(db, Kind::Common, 1).Write(files);
+    } catch (int) {
+    } catch (const FileError&) {
+    }
+    EXPECT_EQ(QDir(dir).entryList(QDir::Files).join(u' '), QLatin1StringView(c.left));
+    const VolumeCheck check = VerifyVolumes(dir);
+    EXPECT_EQ(!check.findings.empty() && check.findings[0].fault == kUnfinished, c.refused);
+    FinishUnfinishedWrites(dir);
+    const QStringList now =
+        QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    EXPECT_EQ(now, c.is_new ? QStringList({u"CSL01"_s, u"notes.txt"_s}) : old);
+    EXPECT_EQ(VerifyVolumes(dir).AllHold(), c.is_new);
+    EXPECT_EQ(testing::FileBytes(dir + u"/CSL01"_s) == "CSL01", !c.is_new);
+  }
+}
+
+// The header of the volumes against the stored declaration's, field by field
+// as the writer writes it: a value stored in another form agrees, a changed
+// one is a row that does not hold and a note. The report is offered under
+// the declaration's name.
+TEST(VolumeCheck, HeaderFieldsAgainstTheStore) {
+  const struct {
+    Kind kind;
+    const char* change;  // of the stored header, after the volumes were written
+    const char* row;     // of the field that differs; none: all agree
+  } cases[] = {
+      // clang-format off
+      {Kind::Common, "total_salaries = '1.234,50'", nullptr},
+      {Kind::Common, "total_salaries = '1234,51'", "ΣΥΝΟΛΟ ΑΠΟΔΟΧΩΝ (15)\t000000123450\t000000123451\t\tΔΙΑΦΕΡΕΙ"},
+      {Kind::Common, "to_month = '2'", "ΕΩΣ ΜΗΝΑ (12)\t03\t02\t\tΔΙΑΦΕΡΕΙ"},
+      {Kind::Construction, "amoe = ''", "Α.Μ.Ο.Ε. (11)\t0000000077\t0000000000\t\tΔΙΑΦΕΡΕΙ"},
+      {Kind::Construction, "sum_days = '26'", "ΣΥΝΟΛΟ ΗΜΕΡΩΝ ΑΠΑΣΧΟΛΗΣΗΣ (19)\t00000025\t00000026\t\tΔΙΑΦΕΡΕΙ"},
+      // clang-format on
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.change);
+    testing::TempStore store;
+    Database& db = store.Open();
+    const bool common = c.kind == Kind::Common;
+    db.Exec(common ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, to_month, total_salaries) "
+                     "VALUES (1, '05/03/2002', '03', '1234,5')"
+                   : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, amoe, sum_days) "
+                     "VALUES (1, '05/03/2002', '77', '25')");
+    {
+      VolumeFiles files(store.Dir());
+      VolumeWriter(db, c.kind, 1).Write(files);
+    }
+    db.Exec(std::string(common ? "UPDATE QOR_EMPLOYERS SET " : "UPDATE QOR_CON_EMPLOYERS SET ") +
+            c.change);
+    testing::FakeDialogs dialogs;
+    dialogs.directories.push_back(store.Dir());
+    store.vars.DeclarationId = 1;
+    store.vars.PeriodFrom = u"012002"_s;
+    CheckVolumes(store.vars, dialogs, c.kind);
+    ASSERT_EQ(dialogs.reports.size(), 1u);
+    const Report& report = dialogs.reports[0];
+    const QStringList text = ReportText(report);
+    EXPECT_EQ(text.filter(u"ΔΙΑΦΕΡΕΙ"_s).join(u'\n'), QString::fromUtf8(c.row ? c.row : ""));
+    EXPECT_EQ(text.filter(u"ΣΥΜΦΩΝΕΙ"_s).size(), (common ? 11 : 10) - (c.row ? 1 : 0));
+    EXPECT_EQ(report.notes.size(), c.row ? 1 : 0);
+    EXPECT_EQ(report.file_name,
+              common ? u"OVT-common-1-2002-01.txt"_s : u"OVT-construction-1-2002-01.txt"_s);
+  }
 }
 
 }  // namespace

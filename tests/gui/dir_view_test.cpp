@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
+#include <QInputDialog>
 #include <QListView>
 #include <QMouseEvent>
 #include <QTemporaryDir>
@@ -95,6 +97,55 @@ TEST(DirViewTest, CancelEscapeAndTheCloseControlAnswerEmpty) {
     QTimer::singleShot(0, &view, [&] { cancel(view); });
     EXPECT_EQ(view.Ask(), QString());
     EXPECT_TRUE(form.Closed());
+  }
+}
+
+// For either purpose the captions say what the directory is for and fit, the
+// title in a title bar too. Enter in the path box goes there, typed anew after
+// a fault, and presses no button; "Νέος φάκελος" asks for the name in a box of
+// its own and opens the folder made.
+TEST(DirViewTest, CaptionsPathBoxAndNewFolder) {
+  const std::tuple<DirPurpose, QString, QString> purposes[] = {
+      {DirPurpose::kWriteVolumes, u"Δημιουργία αρχείου Ξ.Ρ.Φ"_s, texts::kDirLabel1},
+      {DirPurpose::kCheckVolumes, texts::kDirCheckTitle, texts::kDirCheckLabel1}};
+  for (const auto& [purpose, title, label1] : purposes) {
+    QTemporaryDir home;
+    const QString app = home.path() + u"/app"_s;
+    ASSERT_TRUE(QDir(app).mkpath(u"out"_s));
+    FakeDialogs dialogs;
+    DirForm form(
+        app, dialogs,
+        [&home] {
+          return QList<Drive>{{u"home"_s, home.path()}};
+        },
+        purpose);
+    form.Load();
+    DirView view(form);
+    ShowActive(view);
+    ExpectNothingCut(view);
+    EXPECT_EQ(view.windowTitle(), title);
+    EXPECT_EQ(Find<QLabel>(view, u"Label1"_s)->text(), label1);
+    EXPECT_TRUE(ShowsWhole(*Find<QLineEdit>(view, u"PathTxt"_s), texts::kDirPathHint));
+    QFont bold = view.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    EXPECT_LT(metrics.horizontalAdvance(title) + 8 * metrics.height(), view.width());
+
+    for (const QString& typed : {u"x"_s, u"out"_s}) {
+      TypeInto(view, u"PathTxt"_s, typed);
+      Key(*Find<QLineEdit>(view, u"PathTxt"_s), Qt::Key_Enter);
+    }
+    EXPECT_EQ(dialogs.messages.size(), 1u);
+    EXPECT_FALSE(form.Closed());
+    QTimer::singleShot(0, &view, [] {
+      auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+      if (question != nullptr && question->labelText() == texts::kDirNewFolderName) {
+        question->setTextValue(u"made"_s);
+        question->accept();
+      }
+    });
+    Click(view, u"NewDirCmd"_s);
+    EXPECT_EQ(form.Path(), app + u"/out/made"_s);
   }
 }
 

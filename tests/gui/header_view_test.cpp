@@ -9,6 +9,7 @@
 #include <functional>
 #include <ostream>
 
+#include "gui/app_font.h"
 #include "gui/driver.h"
 #include "gui/header_view.h"
 #include "gui/qt_dialogs.h"
@@ -146,6 +147,19 @@ TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks
   EXPECT_TRUE(view->isVisible());
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_FALSE(screens.quit_status.has_value());
+}
+
+// Locked boxes (the period, the month labels) show their values in a colour
+// that stands out from the locked box's background.
+TEST_P(HeaderViewTest, LockedValuesStandOutFromTheirBoxes) {
+  EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
+  UseReadableDisabledText();
+  Open();
+  const QLineEdit* box = Get(form->Layout().from_month_field);
+  ASSERT_FALSE(box->isEnabled());
+  EXPECT_GE(ContrastRatio(box->palette().color(QPalette::Disabled, QPalette::Text),
+                          box->palette().color(QPalette::Disabled, QPalette::Base)),
+            kReadableContrast);
 }
 
 // With the real message boxes: typed texts are stored, and the box that says

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -12,12 +13,14 @@
 #include <ostream>
 
 #include "gui/driver.h"
+#include "gui/form_binder.h"
 #include "gui/lines_view.h"
 #include "gui/search_view.h"
 #include "lines/import_texts.h"
 #include "lines/ovt_form2.h"
 #include "lines/ovt_form4.h"
 #include "lines/texts.h"
+#include "shell/file_names.h"
 #include "support/fakes.h"
 
 namespace veroxia::testing {
@@ -99,6 +102,31 @@ TEST_P(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
   view->close();  // answered No: the window stays
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_TRUE(view->isVisible());
+}
+
+// Clear puts the focus on the first box, where the user sees it; the export
+// offers the declaration's file name; in browse mode the number of a line
+// and Enter show that line and where it stands.
+TEST_P(LinesViewTest, ClearFocusesTheFirstBoxAndEnterGoesToALine) {
+  TypeInto(*view, GetParam().surname, u"Papas"_s);
+  Click(*view, u"ClearCmd"_s);
+  EXPECT_EQ(Focused(*view), form->FirstField());
+  EXPECT_TRUE(Find<QLineEdit>(*view, GetParam().surname)->text().isEmpty());
+  Click(*view, u"ExportCmd"_s);
+  EXPECT_EQ(dialogs.file_questions.back().suggested,
+            DeclarationFileName(form->Layout().kind, 1, u"012002"_s, u"012002"_s, u"csv"_s));
+
+  store.vars.StoreConnection->Exec(
+      form->Layout().kind == Kind::Common
+          ? "INSERT INTO QOR_EMPLOYEES (id, row_num) VALUES (1, 1), (1, 2)"
+          : "INSERT INTO QOR_CON_EMPLOYEES (id, row_num) VALUES (1, 1), (1, 2)");
+  form->Load();
+  view->Binder().Mirror();
+  TypeInto(*view, u"GotoTxt"_s, u"2"_s);
+  Key(*Find<QLineEdit>(*view, u"GotoTxt"_s), Qt::Key_Return);
+  EXPECT_EQ(Find<QLabel>(*view, u"PositionLbl"_s)->text(),
+            lines_texts::kPosition.arg(u"2"_s, u"2"_s));
+  ExpectNothingCut(*view);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,6 +1,6 @@
-// The print preview: drawn once before it shows, never shown for a printout
-// that fails; printing from it to a PDF file; its page against the PDF
-// printer's.
+// The print preview: composed with a progress bar before it shows, never
+// shown for a printout that fails or is stopped; its pages turned; its window
+// on a small screen; printing from it to a PDF file.
 
 #include "gui/print_preview.h"
 
@@ -8,56 +8,155 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
+#include <QLabel>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QScreen>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
+#include <QToolButton>
 
 #include "gui/paper/pdf_printer.h"
+#include "printing/texts.h"
+#include "support/fakes.h"
 #include "support/printers.h"
 
 namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
+namespace pt = printing_texts;
 
-// A printout of three pages; one that fails gives up on the second.
-DrawPrintout Printout(bool fails, int& runs) {
-  return [fails, &runs](Printer& printer) {
-    ++runs;
-    for (int page = 1; page <= 3; ++page) {
-      if (page > 1) printer.NewPage();
-      printer.Print(u"ΣΕΛΙΔΑ %1"_s.arg(page));
-      if (fails) {
-        printer.KillDoc();
-        return false;
-      }
-    }
-    printer.EndDoc();
-    return true;
-  };
+// A printout of three pages, each told to the progress; one that fails gives
+// up on the second.
+PrintJob Printout(bool fails, int& runs) {
+  return {[fails, &runs](Printer& printer, Progress& progress) {
+            ++runs;
+            printer.SetFontSize(u"10"_s);
+            for (int page = 1; page <= 3; ++page) {
+              if (page > 1) printer.NewPage();
+              printer.Print(u"ΣΕΛΙΔΑ %1\r\nΓΡΑΜΜΗ"_s.arg(page));
+              if (fails && page == 2) {
+                printer.KillDoc();
+                return false;
+              }
+              if (!progress.Advance(page, 3)) {
+                printer.KillDoc();
+                return false;
+              }
+            }
+            printer.EndDoc();
+            return true;
+          },
+          u"OVT-common-1-2026-01.pdf"_s};
 }
 
-TEST(PrintPreviewTest, ShownOnlyForAPrintoutThatIsDrawn) {
-  for (const bool fails : {false, true}) {
+struct GoOn : Progress {
+  bool Advance(qint64, qint64) override { return true; }
+};
+
+// The printout's pages, composed.
+struct Composed {
+  int runs = 0;
+  PrintJob job = Printout(false, runs);
+  PageFile pages;
+  Composed() {
+    GoOn go_on;
+    EXPECT_TRUE(job.draw(pages, go_on));
+  }
+};
+
+template <class W>
+W* Child(QWidget& window, const char* name) {
+  return window.findChild<W*>(QString::fromLatin1(name));
+}
+
+TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
+  const struct {
+    bool fails;
+    int stop_at;
+    bool shown;
+  } cases[] = {{false, 0, true}, {true, 0, false}, {false, 2, false}};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(::testing::Message() << c.fails << c.stop_at);
+    testing::FakeDialogs dialogs;
+    dialogs.stop_at = c.stop_at;
     int runs = 0;
-    int shown_pages = 0;
-    int runs_when_shown = 0;
+    QString count;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, [&] {
-      auto* dialog = qobject_cast<QPrintPreviewDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr || !dialog->isVisible()) return;
-      shown_pages = dialog->findChild<QPrintPreviewWidget*>()->pageCount();
-      runs_when_shown = runs;
-      dialog->reject();
+      QWidget* window = QApplication::activeModalWidget();
+      if (window == nullptr || !window->isVisible()) return;
+      count = Child<QLabel>(*window, "PageCount")->text().trimmed();
+      window->close();
     });
     poll.start(5);
-    ShowPrintPreview(nullptr, Printout(fails, runs));
-    EXPECT_EQ(runs, 1) << fails;
-    EXPECT_EQ(shown_pages, fails ? 0 : 3) << fails;
-    EXPECT_EQ(runs_when_shown, fails ? 0 : 1) << fails;
+    ShowPrintPreview(nullptr, dialogs, Printout(c.fails, runs));
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(dialogs.progress_texts, QStringList{pt::kComposing});
+    EXPECT_EQ(count, c.shown ? pt::kOfPages.arg(3) : QString());
+  }
+}
+
+TEST(PrintPreviewTest, PagesAreTurnedByButtonsAndNumber) {
+  testing::FakeDialogs dialogs;
+  Composed printout;
+  PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
+  window.show();
+  auto* first = Child<QToolButton>(window, "FirstPageCmd");
+  auto* next = Child<QToolButton>(window, "NextPageCmd");
+  auto* last = Child<QToolButton>(window, "LastPageCmd");
+  auto* box = Child<QSpinBox>(window, "PageBox");
+  EXPECT_EQ(window.Page(), 0);
+  EXPECT_FALSE(first->isEnabled());
+  next->click();
+  EXPECT_EQ(window.Page(), 1);
+  EXPECT_EQ(box->value(), 2);
+  last->click();
+  EXPECT_EQ(window.Page(), 2);
+  EXPECT_FALSE(next->isEnabled());
+  EXPECT_TRUE(first->isEnabled());
+  box->setValue(1);
+  EXPECT_EQ(window.Page(), 0);
+  window.ShowPage(7);  // beyond the last: the last
+  EXPECT_EQ(window.Page(), 2);
+}
+
+// The offscreen screen is 800×600: smaller than the laptops' 1366×768 and
+// 1024×768. The window, its toolbar and a page's whole width at a readable
+// size are within it.
+TEST(PrintPreviewTest, FitsASmallScreen) {
+  testing::FakeDialogs dialogs;
+  Composed printout;
+  PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
+  window.show();
+  const QRect area = window.screen()->availableGeometry();
+  EXPECT_TRUE(area.contains(window.frameGeometry())) << area.height();
+  const auto* bar = Child<QToolBar>(window, "PreviewToolbar");
+  EXPECT_LE(bar->sizeHint().width(), window.width());
+  const QWidget* sheets = Child<QWidget>(window, "PreviewSheets");
+  EXPECT_LE(sheets->width(), Child<QWidget>(window, "PreviewScroll")->width());
+  EXPECT_GE(window.Zoom(), 0.85);  // 10 points stay at least 11 pixels
+}
+
+TEST(PrintPreviewTest, SavesAPdfUnderTheDeclarationsName) {
+  for (const int stop_at : {0, 2}) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath(u"out.pdf"_s);
+    testing::FakeDialogs dialogs;
+    dialogs.files = {path};
+    Composed printout;
+    PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
+    dialogs.stop_at = stop_at;
+    window.SavePdfCmd_Click();
+    ASSERT_EQ(dialogs.file_questions.size(), 1u);
+    EXPECT_EQ(dialogs.file_questions[0].suggested, printout.job.pdf_name);
+    EXPECT_TRUE(dialogs.file_questions[0].save);
+    EXPECT_EQ(dialogs.progress_texts, QStringList{pt::kSavingPdf});
+    EXPECT_EQ(QFile::exists(path), stop_at == 0);
+    EXPECT_TRUE(dialogs.messages.empty());
   }
 }
 
@@ -69,7 +168,9 @@ TEST(PrintPreviewTest, PrintsToAFileOnlyWhenThePrintoutIsComplete) {
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(dir.filePath(u"out.pdf"_s));
     int runs = 0;
-    EXPECT_EQ(DrawOn(printer, Printout(fails, runs)), !fails);
+    GoOn go_on;
+    const PrintJob job = Printout(fails, runs);
+    EXPECT_EQ(DrawOn(printer, [&](Printer& p) { return job.draw(p, go_on); }), !fails);
     EXPECT_EQ(QFile::exists(printer.outputFileName()), !fails);
   }
 }

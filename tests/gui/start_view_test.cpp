@@ -16,9 +16,14 @@ namespace {
 
 const QStringList kKindButtons{"Command1", "Command4", "Command2", "Command5", "Command3"};
 
+// The pictures lie beside the program.
 class StartViewTest : public ::testing::Test {
  protected:
   void SetUp() override {
+    for (const char* file : {"ovt.gif", "qormain.ico"}) {
+      ASSERT_TRUE(
+          QFile::copy(QStringLiteral(VEROXIA_ASSETS "/") + file, store.Dir() + u'/' + file));
+    }
     ASSERT_TRUE(form.Load());
     view = std::make_unique<StartView>(form);
     ShowActive(*view);
@@ -37,7 +42,7 @@ class StartViewTest : public ::testing::Test {
 };
 
 // A kind button opens the period frame (Frame2 for construction works); the
-// tab key then stops only where the logic says.
+// tab key then stops only where the logic says, and nothing is cut.
 struct KindCase {
   const char* button;  // none: the choosing state
   bool carry_over;
@@ -68,6 +73,14 @@ TEST_P(ChooseKindTest, KindButtonsOpenThePeriodFrameAndTheTabKeyFollows) {
   }
   EXPECT_EQ(visited, stops);
   EXPECT_EQ(form.FocusedField(), stops.back());  // the logic heard of every move
+  // Nothing is cut at the window's size, nor at a somewhat smaller inner size
+  // such as a window frame leaves.
+  for (const QSize inner : {view->size(), view->size() - QSize(8, 34)}) {
+    view->setFixedSize(inner);
+    QApplication::processEvents();
+    SCOPED_TRACE(::testing::Message() << inner.width() << "x" << inner.height());
+    ExpectNothingCut(*view);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -106,7 +119,11 @@ TEST_F(StartViewTest, CancelKeepsThePeriodAndOkHandsOverToTheHeaderScreen) {
   EXPECT_EQ(store.vars.PeriodTo, "062002");
 }
 
-TEST_F(StartViewTest, Frame2LiesOverTheCommonFields) {
+TEST_F(StartViewTest, PicturesShowAndFrame2LiesOverTheCommonFields) {
+  const auto* img = Find<QLabel>(*view, "Img");
+  EXPECT_FALSE(img->pixmap().isNull());
+  EXPECT_LE(img->pixmap().width(), img->width());
+  EXPECT_FALSE(view->windowIcon().pixmap(32, 32).isNull());
   Click(*view, "Command2");
   const QWidget* frame1 = Find(*view, "Frame1");
   const QWidget* frame2 = Find(*view, "Frame2");
@@ -119,36 +136,15 @@ TEST_F(StartViewTest, Frame2LiesOverTheCommonFields) {
   }
 }
 
-// Nothing is cut at the window's size, and at a somewhat smaller inner size
-// such as a window frame leaves.
-class NothingCutTest : public StartViewTest, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(NothingCutTest, AtTheWindowSizeAndWithAFrame) {
-  for (const QSize inner : {view->size(), view->size() - QSize(8, 34)}) {
-    view->setFixedSize(inner);
-    if (*GetParam() != '\0') Click(*view, GetParam());
-    QApplication::processEvents();
-    SCOPED_TRACE(::testing::Message() << inner.width() << "x" << inner.height());
-    ExpectNothingCut(*view);
-  }
-}
-
-INSTANTIATE_TEST_SUITE_P(States, NothingCutTest, ::testing::Values("", "Command1", "Command2"));
-
-TEST(StartViewPictures, PicturesBesideTheProgramAreShown) {
-  TempStore store;
-  for (const char* file : {"ovt.gif", "qormain.ico"}) {
-    ASSERT_TRUE(QFile::copy(QStringLiteral(VEROXIA_ASSETS "/") + file, store.Dir() + u'/' + file));
-  }
-  FakeDialogs dialogs;
-  FakeScreens screens;
-  StartForm form(store.vars, dialogs, screens);
-  ASSERT_TRUE(form.Load());
-  StartView view(form);
-  const auto* img = Find<QLabel>(view, "Img");
-  EXPECT_FALSE(img->pixmap().isNull());
-  EXPECT_LE(img->pixmap().width(), img->width());
-  EXPECT_FALSE(view.windowIcon().pixmap(32, 32).isNull());
+// Enter (Return or the keypad's) in any period field presses OK.
+TEST_F(StartViewTest, EnterInAPeriodFieldPressesOk) {
+  Click(*view, "Command1");
+  Key(*Find(*view, "Month1"), Qt::Key_Enter);
+  EXPECT_EQ(dialogs.LastMessage(), texts::kStartMonthBlank);
+  for (const char* name : {"Month1", "Month2"}) TypeInto(*view, name, "01");
+  for (const char* name : {"Year1", "Year2"}) TypeInto(*view, name, "2002");
+  Key(*Find(*view, "Year2"), Qt::Key_Return);
+  EXPECT_EQ(screens.shown, QStringList{"header common"});
 }
 
 }  // namespace

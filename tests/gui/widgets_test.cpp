@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QBoxLayout>
+#include <QHelpEvent>
+#include <QToolTip>
 
 #include "driver.h"
 #include "gui/fields.h"
@@ -91,6 +93,28 @@ TEST_F(BinderTest, TextsFromTheLogicAreShownFromTheirFirstCharacter) {
   EXPECT_EQ(street.cursorPosition(), 0);
 }
 
+// A locked box too narrow for its text shows all of it as its tip; a choice
+// box shows a text from the logic from its start.
+TEST_F(BinderTest, ALockedBoxShowsALongTextWholeAsItsTip) {
+  ShowAtWidth(300);
+  const QString long_text(80, u'Ω');
+  form.At(u"Street"_s).enabled = false;
+  for (const QString& text : {u"ΑΡΧΗ"_s, long_text}) {
+    form.At(u"Street"_s).text = text;
+    binder->Mirror();
+    QToolTip::hideText();
+    QHelpEvent rest(QEvent::ToolTip, {5, 5}, Box(u"Street"_s)->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(Box(u"Street"_s), &rest);
+    EXPECT_EQ(QToolTip::text(), text == long_text ? text : QString());
+  }
+  auto* combo = new QComboBox(&window);  // owned by the window
+  combo->setEditable(true);
+  binder->Bind(u"Name"_s, combo);
+  form.At(u"Name"_s).text = long_text.left(30);
+  binder->Mirror();
+  EXPECT_EQ(combo->lineEdit()->cursorPosition(), 0);
+}
+
 TEST(WrapButtonTest, CaptionsKeepOffTheBevelAtTheNarrowestWidth) {
   WrapButton button;
   button.setText(u"Εκτύπωση συγκεντρωτικού"_s);
@@ -100,6 +124,18 @@ TEST(WrapButtonTest, CaptionsKeepOffTheBevelAtTheNarrowestWidth) {
   const int word = metrics.horizontalAdvance(u"συγκεντρωτικού"_s);
   EXPECT_GE((button.width() - word) / 2, metrics.averageCharWidth());
   EXPECT_TRUE(button.CaptionFits());
+}
+
+// At the width it asks for, a button shows its caption on one line.
+TEST(WrapButtonTest, AtItsPreferredWidthTheCaptionStandsOnOneLine) {
+  WrapButton button;
+  button.setText(u"Νέος φάκελος"_s);
+  for (const double points : {8.0, 8.5, 9.0}) {
+    QFont font = button.font();
+    font.setPointSizeF(points);
+    button.setFont(font);
+    EXPECT_EQ(button.sizeHint().height(), button.heightForWidth(10'000)) << points;
+  }
 }
 
 }  // namespace

@@ -6,12 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
 #include <optional>
 
 #include "header/date_box.h"
 #include "header/ovt_form1.h"
 #include "support/fakes.h"
+#include "support/screen_test.h"
 #include "support/store_rows.h"
 
 namespace veroxia::testing {
@@ -19,32 +19,14 @@ namespace veroxia::testing {
 using namespace Qt::StringLiterals;
 
 template <class Screen>
-class HeaderTest : public ::testing::Test {
+class HeaderTest : public ScreenTest<Screen> {
  protected:
   HeaderTest(int id, const QString& from, const QString& to) {
-    vars_.DeclarationId = id;
-    vars_.PreviousDeclarationId = id - 1;
-    vars_.PeriodFrom = from;
-    vars_.PeriodTo = to;
+    this->vars_.DeclarationId = id;
+    this->vars_.PreviousDeclarationId = id - 1;
+    this->vars_.PeriodFrom = from;
+    this->vars_.PeriodTo = to;
   }
-  // A fresh screen on the shared variables, loaded.
-  Screen& Open() {
-    form_ = std::make_unique<Screen>(vars_, dialogs_, screens_);
-    form_->Load();
-    return *form_;
-  }
-  QStringList Texts(const QStringList& names) const {
-    QStringList texts;
-    for (const QString& name : names) texts << form_->Text(name);
-    return texts;
-  }
-
-  TempStore store_;
-  Vars& vars_ = store_.vars;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
-  std::unique_ptr<Screen> form_;
 };
 
 // Fields never unlocked, and the two never shown (all others always are).

@@ -133,8 +133,9 @@ TEST_F(OvtForm3Test, FirstSaveAndCorrectionStoreEachColumnTheirWay) {
 
 // A stored header: the branch code with three digits, the type from its
 // code, the month and the dates as stored. A new one takes the month of the
-// period's start; a taken-over one the previous header without its month and
-// dates, and its save carries the lines over.
+// period's start, and its close box asks (Yes ends the program); a taken-over
+// one the previous header without its month and dates, and its save carries
+// the lines over.
 TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
   ConEmployerRow row = Sample<ConEmployerRow>(kId);
   row.ovt_code = u"5"_s;
@@ -155,8 +156,12 @@ TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
   vars_.DeclarationId = kId + 1;
   OvtForm3& fresh = Open();
   EXPECT_EQ(Texts({"Text17_1", "Text17_2", "Text2"}), (QStringList{u"05"_s, u"2003"_s, {}}));
-  EXPECT_FALSE(fresh.QueryClose());
-  EXPECT_EQ(dialogs_.questions.back().title, kConCloseTitle);
+  EXPECT_FALSE(fresh.QueryClose());  // the close box asks; No keeps the screen, Yes ends
+  EXPECT_EQ(FakeDialogs::Told(dialogs_.questions), (QStringList{kConCloseTitle, kCloseQuestion}));
+  EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
+  dialogs_.answers = {true};
+  EXPECT_TRUE(fresh.QueryClose());
+  EXPECT_EQ(screens_.quit_status, 0);
 
   for (int row_num = 1; row_num <= 2; ++row_num) {
     InsertRow(db_, Sample<ConEmployeeRow>(kId, row_num));

@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 
+#include "header/texts.h"
 #include "lines/import_texts.h"
 #include "lines/line_import.h"
 #include "lines/line_kinds.h"
@@ -45,6 +45,10 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
       {"a;b\n\xCE\x91\xCE\xBB\xCE\xB1;\xC0\xAF\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {u"Αλα"_s, QString::fromUtf8("\xC0\xAF")}}, {1, 2}, kBadBytes.arg(u"UTF-8"_s, u"C0 AF"_s), 1},
       {"a;b\n1;\"2\n3;4\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2\n3;4\n"}}, {1, 2}, kUnclosedQuote, 1},
       {"a;b\n\"1\"x;2\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1x", "2"}}, {1, 2}, kTextAfterQuote, 0},
+      // A byte-order mark where two files were joined; a line with no end.
+      {"a;b\n\xEF\xBB\xBF" "1;2\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", "2"}}, {1, 2}, kBomInField, 0},
+      {"a;b\n1;2\xEF\xBB\xBF\n", CsvEncoding::kUtf8, ';', {{"a", "b"}, {"1", u"2\uFEFF"_s}}, {1, 2}, kBomInField, 1},
+      {"a;b\n" + QByteArray((1 << 20) + 1, 'x'), CsvEncoding::kUtf8, ';', {{"a", "b"}, {}}, {1, 2}, kRecordTooLong, -1},
       // clang-format on
   };
   QTemporaryDir dir;
@@ -70,13 +74,11 @@ TEST(CsvReaderTest, ReadsTheFilesSpreadsheetsWrite) {
     EXPECT_EQ(reader.Position(), reader.Size());
   }
   // Files that are no text of either encoding are refused whole.
+  // clang-format off
   const std::pair<QByteArray, QString> refused[] = {
-      {QByteArray("\xFF\xFE"
-                  "a\0;\0",
-                  6),
-       u"UTF-16"_s},
-      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)},
-  };
+      {QByteArray("\xFF\xFE" "a\0;\0", 6), u"UTF-16"_s},
+      {QByteArray("a;b\n1\0;2", 8), kControlByte.arg(2).arg(u"00"_s)}};
+  // clang-format on
   for (const auto& [bytes, why] : refused) {
     const QString path = dir.filePath(u"b.csv"_s);
     ASSERT_TRUE(WriteFile(path, bytes));
@@ -108,34 +110,32 @@ TEST(CsvReaderTest, RecordsAcrossThePiecesReadWhole) {
   }
 }
 
-class LineImportTest : public ::testing::Test {
+class LineImportTest : public ScreenTest<OvtForm2> {
  protected:
   LineImportTest() {
-    store_.vars.PeriodFrom = u"012002"_s;
-    store_.vars.PeriodTo = u"032002"_s;
+    vars_.PeriodFrom = u"012002"_s;
+    vars_.PeriodTo = u"032002"_s;
     db_.Exec(
         "INSERT INTO QOR_EMPLOYERS (id) VALUES (1), (2); "
         "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id) VALUES (1, 1, '1')");
   }
 
   // Imports the CSV text into declaration `id` of the common kind through
-  // the fake person; true when lines were stored.
-  bool Import(const QByteArray& csv, int id = 1) {
+  // the fake person (the lines it has kept unless `mode` says otherwise, or
+  // asked about); true when lines were stored.
+  bool Import(const QByteArray& csv, int id = 1,
+              std::optional<ImportMode> mode = ImportMode::kAppend) {
     const QString path = dir_.filePath(u"lines.csv"_s);
     EXPECT_TRUE(WriteFile(path, csv));
-    store_.vars.DeclarationId = static_cast<std::int16_t>(id);
+    vars_.DeclarationId = static_cast<std::int16_t>(id);
     dialogs_.files.push_back(path);
-    const auto form = MakeLinesForm(Kind::Common, store_.vars, dialogs_, screens_);
-    return ImportLines(*form, dialogs_);
+    const auto form = MakeLinesForm(Kind::Common, vars_, dialogs_, screens_);
+    return ImportLines(*form, dialogs_, {}, {}, ImportAnswers{mode, std::nullopt});
   }
 
   std::vector<std::vector<Text>> Stored() { return DumpTable(db_, "QOR_EMPLOYEES"); }
 
   QTemporaryDir dir_;
-  TempStore store_;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
 };
 
 // Every row that fails is reported with its line, column, value and the
@@ -153,9 +153,13 @@ TEST_F(LineImportTest, AllRowsOrNoneAndEveryFailingRowReported) {
       {With(good, u"Text21"_s, QString(51, u'Α')),
        {4, u"surname"_s, QString(51, u'Α'), kTooLong.arg(51).arg(50)}},
       {With(good, u"Text25"_s, u"5/3/1970"_s), {5, u"birth_date"_s, u"5/3/1970"_s, kDateShape}},
-      {With(good, u"Text22"_s, u"Жора"_s), {6, u"name"_s, u"Жора"_s, kNotInCodePage.arg(u"Ж"_s)}},
+      {With(good, u"Text22"_s, u"Жора"_s),
+       {6, u"name"_s, u"Жора"_s,
+        header_texts::kNotInCodePage.arg(lines_texts::kLbl22, u"Ж"_s, u"0416"_s)}},
       {few, {7, {}, {}, kFieldCount.arg(30).arg(31)}},
-      {With(good, u"Text39"_s, u"12.345,6"_s), {}},  // thousands parted by dots
+      // Thousands parted by dots (another person: the same one would be a
+      // line twice).
+      {With(With(good, u"Text39"_s, u"12.345,6"_s), u"Text19"_s, u"123456781"_s), {}},
   };
   std::vector<Line> lines;
   std::vector<ImportFault> expected;
@@ -193,7 +197,7 @@ TEST_F(LineImportTest, AllRowsOrNoneAndEveryFailingRowReported) {
 // The road through the dialogs: what the user is shown and asked at each
 // step, and that only the last step stores anything.
 TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
-  const QByteArray valid = Csv(Kind::Common, {ValidCommonLine(), ValidCommonLine()});
+  const QByteArray valid = Csv(Kind::Common, {ValidCommonLine(), ValidCommonLine(u"123456781"_s)});
   const auto before = Stored();
 
   EXPECT_FALSE(Import("insured_id;19;nothing\n1;2;3\n"));
@@ -232,7 +236,8 @@ TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
 
   // A tax number with a wrong check digit is shown and asked about once.
   const QByteArray warned =
-      Csv(Kind::Common, {ValidCommonLine(), With(ValidCommonLine(), u"Text26"_s, u"094014202"_s)});
+      Csv(Kind::Common,
+          {ValidCommonLine(), With(ValidCommonLine(u"123456781"_s), u"Text26"_s, u"094014202"_s)});
   EXPECT_FALSE(Import(warned));
   EXPECT_EQ(dialogs_.reports.back().rows.size(), 1u);
   EXPECT_EQ(dialogs_.reports.back().rows[0].cells.first(2),
@@ -248,9 +253,8 @@ TEST_F(LineImportTest, TheUserCanStopAtEveryStepWithNothingStored) {
 // On the screen: the import waits for new or browse mode, and the first
 // line brought in is shown, in browse mode, before the user is told.
 TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
-  store_.vars.DeclarationId = 2;
-  OvtForm2 form(store_.vars, dialogs_, screens_);
-  form.Load();
+  vars_.DeclarationId = 2;
+  OvtForm2& form = Open();
   EXPECT_TRUE(form.At(u"ImportCmd"_s).enabled && form.NewMode());
   const QString path = dir_.filePath(u"lines.csv"_s);
   ASSERT_TRUE(WriteFile(path, Csv(Kind::Common, {ValidCommonLine(u"200000000"_s, u"Άλφα"_s)})));
@@ -260,6 +264,82 @@ TEST_F(LineImportTest, TheScreenShowsTheFirstLineBroughtIn) {
   EXPECT_TRUE(form.At(u"NewCmd"_s).visible && !form.At(u"Text21"_s).enabled);
   form.UpDateCmd_Click();
   EXPECT_FALSE(form.At(u"ImportCmd"_s).enabled || form.At(u"ExportCmd"_s).enabled);
+}
+
+// A declaration with lines asks what becomes of them: closed or Άκυρο does
+// nothing, Append numbers the file's rows on, Replace all puts them in the
+// place of every stored line, all or nothing. Rows repeating a stored line
+// (on Append) or an earlier row are listed before anything is kept, and
+// stored only on the list's button; rows without a register number repeat
+// nothing.
+TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
+  db_.Exec(
+      "INSERT INTO QOR_EMPLOYEES (id, row_num, insured_id, sal_month, sal_year, wage_code) "
+      "VALUES (1, 2, '200000001', '02', '2002', '01')");
+  using lines_texts::kLbl19, lines_texts::kLbl33, lines_texts::kLbl36;
+  const QString same = kLbl19 + u", "_s + kLbl33.left(kLbl33.indexOf(u')') + 1) + kAnd + kLbl36;
+  const QByteArray clean =
+      Csv(Kind::Common, {ValidCommonLine(u"300000001"_s), ValidCommonLine(u"300000002"_s)});
+  const Line nobody = With(ValidCommonLine(), u"Text19"_s, {});
+  const QByteArray repeats = Csv(
+      Kind::Common, {ValidCommonLine(u"200000001"_s), ValidCommonLine(u"300000001"_s),
+                     With(ValidCommonLine(u"300000001"_s), u"Text36"_s, u"1"_s), nobody, nobody});
+  const QStringList before{u"1 1"_s, u"2 200000001"_s};
+  const QStringList file{u"1 300000001"_s, u"2 300000002"_s};
+  const QString in_file = u"4 "_s + kDuplicateInFile.arg(3);
+  const struct {
+    int id;
+    int choice;  // the answer to the question; -1: the box closed
+    const QByteArray& csv;
+    bool keep;            // the answer to the list of repeated rows
+    QStringList after;    // the declaration's lines: number and register number
+    QStringList repeats;  // the rows listed: line of the file and message
+  } cases[] = {
+      {2, -1, clean, false, file, {}},
+      {1, -1, clean, false, before, {}},
+      {1, 2, clean, false, before, {}},
+      {1, 0, repeats, false, before, {u"2 "_s + kDuplicateOfStored.arg(2), in_file}},
+      {1, 1, repeats, false, before, {in_file}},
+      {1, 0, clean, false, before + QStringList{u"3 300000001"_s, u"4 300000002"_s}, {}},
+      {1, 1, clean, false, file, {}},
+      {1,
+       1,
+       repeats,
+       true,
+       {u"1 200000001"_s, u"2 300000001"_s, u"3 300000001"_s, u"4 "_s, u"5 "_s},
+       {in_file}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.choice);
+    dialogs_.choices.clear();
+    if (c.choice >= 0) dialogs_.choices.push_back(c.choice);
+    dialogs_.confirms = {true, c.keep};
+    const size_t asked = dialogs_.choice_buttons.size();
+    const size_t previews = dialogs_.confirmed.size();
+    const bool stored = Import(c.csv, c.id, std::nullopt);
+    EXPECT_EQ(dialogs_.choice_buttons.size() - asked, c.id == 1 ? 1u : 0u);
+    const bool goes_on = c.choice == 0 || c.choice == 1 || c.id != 1;
+    EXPECT_EQ(dialogs_.confirmed.size() - previews,
+              goes_on ? 1u + (c.repeats.isEmpty() ? 0u : 1u) : 0u);
+    QStringList lines;
+    for (const auto& line : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", c.id)) {
+      lines << QString::number(line.row_num) + u' ' + line.insured_id.value_or(QString());
+    }
+    EXPECT_EQ(lines, c.after);
+    QStringList listed;
+    if (dialogs_.confirmed.size() - previews == 2) {
+      for (const ReportRow& row : dialogs_.confirmed.back().rows) {
+        listed << row.cells[0] + u' ' + row.cells[3];
+      }
+      EXPECT_EQ(dialogs_.confirm_captions.back(), kRepeatsGo);
+      EXPECT_EQ(dialogs_.confirmed.back().about, QStringList{kRepeatsAbout.arg(same)});
+    }
+    EXPECT_EQ(listed, c.repeats);
+    EXPECT_EQ(stored, goes_on && (c.repeats.isEmpty() || c.keep));
+  }
+  EXPECT_EQ(dialogs_.choice_buttons.back(),
+            (QStringList{kAppendAnswer, kReplaceAnswer, kCancelAnswer}));
+  EXPECT_EQ(dialogs_.LastMessage(), kImported.arg(5).arg(1).arg(5) + u' ' + kReplaced.arg(2));
 }
 
 }  // namespace

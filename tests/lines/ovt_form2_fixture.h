@@ -5,12 +5,11 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 #include "lines/ovt_form2.h"
 #include "store/lines.h"
 #include "support/fakes.h"
 #include "support/printers.h"
+#include "support/screen_test.h"
 
 namespace veroxia::testing {
 
@@ -36,31 +35,19 @@ inline std::vector<std::pair<QString, QString>> ValidCommonLine(
   // clang-format on
 }
 
-class OvtForm2Test : public ::testing::Test {
+class OvtForm2Test : public ScreenTest<OvtForm2> {
  protected:
   static constexpr int kId = 4;
 
   OvtForm2Test() {
-    store_.vars.DeclarationId = kId;
-    store_.vars.PeriodFrom = u"012002"_s;
-    store_.vars.PeriodTo = u"032002"_s;
-  }
-
-  OvtForm2& Open() {
-    form_ = std::make_unique<OvtForm2>(store_.vars, dialogs_, screens_);
-    form_->Load();
-    return *form_;
+    vars_.DeclarationId = kId;
+    vars_.PeriodFrom = u"012002"_s;
+    vars_.PeriodTo = u"032002"_s;
   }
 
   static std::vector<std::pair<QString, QString>> ValidLine(const QString& insured_id,
                                                             const QString& surname) {
     return ValidCommonLine(insured_id, surname);
-  }
-
-  QStringList Texts(const QStringList& names) const {
-    QStringList texts;
-    for (const QString& name : names) texts << form_->Text(name);
-    return texts;
   }
 
   void TypeValidLine(const QString& insured_id = u"123456789"_s,
@@ -119,12 +106,6 @@ class OvtForm2Test : public ::testing::Test {
     if (!entry) return u"browse"_s;
     return form.EditMode() ? u"edit"_s : u"new"_s;
   }
-
-  TempStore store_;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
-  std::unique_ptr<OvtForm2> form_;
 };
 
 }  // namespace veroxia::testing

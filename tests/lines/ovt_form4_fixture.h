@@ -4,12 +4,12 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <utility>
 #include <vector>
 
 #include "lines/ovt_form4.h"
 #include "support/fakes.h"
+#include "support/screen_test.h"
 
 namespace veroxia::testing {
 
@@ -32,26 +32,15 @@ inline std::vector<std::pair<QString, QString>> ValidConLine(const QString& insu
   // clang-format on
 }
 
-class OvtForm4Test : public ::testing::Test {
+class OvtForm4Test : public ScreenTest<OvtForm4> {
  protected:
   static constexpr int kId = 6;
 
-  OvtForm4Test() { store_.vars.DeclarationId = kId; }
+  OvtForm4Test() { vars_.DeclarationId = kId; }
 
-  OvtForm4& Open() {
-    form_ = std::make_unique<OvtForm4>(store_.vars, dialogs_, screens_);
-    form_->Load();
-    return *form_;
-  }
   void TypeValidLine(const QString& insured_id = u"123456789"_s) {
     for (const auto& [name, text] : ValidConLine(insured_id)) form_->Type(name, text);
   }
-
-  TempStore store_;
-  Database& db_ = store_.Open();
-  FakeDialogs dialogs_;
-  FakeScreens screens_;
-  std::unique_ptr<OvtForm4> form_;
 };
 
 }  // namespace veroxia::testing

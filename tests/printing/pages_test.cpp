@@ -99,23 +99,29 @@ TEST_F(PagesTest, CommonSummaryOfOneMonth) {
 }
 
 TEST_F(PagesTest, ConstructionSummary) {
-  InsertRow(db_, With<ConEmployerRow>(0, {
-      {"declare_type", "03"}, {"ovt_code", "7"}, {"ovt_name", "ΠΕΙΡΑΙΑ"}, {"emp_name", "ΑΛΦΑ"},
-      {"emp_address", "ΟΔΟΣ"}, {"emp_num", "1"}, {"emp_zip_code", "18535"}, {"emp_city", "ΠΕΙΡΑΙΑΣ"},
-      {"con_descr", QString(51, u'Ε') + u' ' + QString(18, u'Ζ')}, {"ame", "11"}, {"amoe", "22"}, {"afm", "33"},
-      {"con_address", "ΛΙΜΑΝΙ"}, {"con_zip_code", "18536"}, {"from_month", "05"},
-      {"from_year", "2026"}, {"sum_days", " 40"}, {"sum_salaries", "1234,5"}}));
-  const QStringList expected = QStringList{
-      u""_s, u""_s, u""_s, u""_s, pt::kConSumTitle, pt::kConSumSubtitle, u""_s, u""_s,
-      pt::kType + u"03 "_s + pt::kResubmission, u""_s, pt::kBranch1,
-      pt::kBranch2 + u"007 ΠΕΙΡΑΙΑ"_s, u""_s, pt::kEmployer + u"ΑΛΦΑ"_s + B(2), u""_s,
-      pt::kSeat + u"ΟΔΟΣ 1"_s, pt::kSeatEmployer + u"18535 ΠΕΙΡΑΙΑΣ"_s, u""_s,
-      pt::kWorks + QString(51, u'Ε') + u' ', B(17) + QString(18, u'Ζ'), u""_s,
-      pt::kSumAme + u"11"_s + pt::kSumAmoe + u"22"_s + pt::kSumAfmAfterAmoe + u"33"_s, u""_s,
-      pt::kSite + u"ΛΙΜΑΝΙ "_s, B(27) + u"18536 "_s, u""_s, pt::kSumMonth + u"05/2026"_s, u""_s,
-      pt::kSumDays1, pt::kSumDays2 + u" 40"_s, u""_s, pt::kSumTotal, pt::kSalaries + u"1.234,50"_s,
-      u""_s, pt::kSumTotal, pt::kContributions + u"0,00"_s} + Closing();
-  EXPECT_EQ(Print(Kind::Construction, Printout::kSummary), std::vector{expected});
+  // The totals of wages and contributions are read as texts: a Null prints nothing.
+  const struct { Text salaries, contributions; QString printed_salaries, printed_contributions; } totals[] = {
+      {u"1234,5"_s, {}, u"1.234,50"_s, u""_s}, {{}, u" -7"_s, u""_s, u"-7,00"_s}};
+  for (const auto& t : totals) {
+    db_.Exec("DELETE FROM QOR_CON_EMPLOYERS");
+    InsertRow(db_, With<ConEmployerRow>(0, {
+        {"declare_type", "03"}, {"ovt_code", "7"}, {"ovt_name", "ΠΕΙΡΑΙΑ"}, {"emp_name", "ΑΛΦΑ"},
+        {"emp_address", "ΟΔΟΣ"}, {"emp_num", "1"}, {"emp_zip_code", "18535"}, {"emp_city", "ΠΕΙΡΑΙΑΣ"},
+        {"con_descr", QString(51, u'Ε') + u' ' + QString(18, u'Ζ')}, {"ame", "11"}, {"amoe", "22"}, {"afm", "33"},
+        {"con_address", "ΛΙΜΑΝΙ"}, {"con_zip_code", "18536"}, {"from_month", "05"},
+        {"from_year", "2026"}, {"sum_days", " 40"}, {"sum_salaries", t.salaries}, {"sum_contr", t.contributions}}));
+    const QStringList expected = QStringList{
+        u""_s, u""_s, u""_s, u""_s, pt::kConSumTitle, pt::kConSumSubtitle, u""_s, u""_s,
+        pt::kType + u"03 "_s + pt::kResubmission, u""_s, pt::kBranch1,
+        pt::kBranch2 + u"007 ΠΕΙΡΑΙΑ"_s, u""_s, pt::kEmployer + u"ΑΛΦΑ"_s + B(2), u""_s,
+        pt::kSeat + u"ΟΔΟΣ 1"_s, pt::kSeatEmployer + u"18535 ΠΕΙΡΑΙΑΣ"_s, u""_s,
+        pt::kWorks + QString(51, u'Ε') + u' ', B(17) + QString(18, u'Ζ'), u""_s,
+        pt::kSumAme + u"11"_s + pt::kSumAmoe + u"22"_s + pt::kSumAfmAfterAmoe + u"33"_s, u""_s,
+        pt::kSite + u"ΛΙΜΑΝΙ "_s, B(27) + u"18536 "_s, u""_s, pt::kSumMonth + u"05/2026"_s, u""_s,
+        pt::kSumDays1, pt::kSumDays2 + u" 40"_s, u""_s, pt::kSumTotal, pt::kSalaries + t.printed_salaries,
+        u""_s, pt::kSumTotal, pt::kContributions + t.printed_contributions} + Closing();
+    EXPECT_EQ(Print(Kind::Construction, Printout::kSummary), std::vector{expected});
+  }
 }
 // clang-format on
 
@@ -258,19 +264,13 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
     FakeDialogs dialogs;
     Database& db = store.Open();
     store.vars.DeclarationId = 1;
-    if (common) {
-      InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}));
-    } else {
-      InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
-    }
+    common ? InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}))
+           : InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
-      if (common) {
-        InsertRow(db,
-                  With<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}));
-      } else {
-        InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
-      }
+      common ? InsertRow(db, With<EmployeeRow>(
+                                 n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
+             : InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
     }
     const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
@@ -374,6 +374,33 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
   EXPECT_EQ(dialogs_.printers[0].calls,
             (QStringList{u"size 10"_s, u"name Courier New Greek"_s, u"print"_s, u"end"_s}));
   EXPECT_TRUE(dialogs_.printers[1].pages[0].contains(pt::kSumTitle));
+}
+
+// A printout the user stops is abandoned at once and nothing is told; the
+// preview offers it under the declaration's name.
+TEST_F(PagesTest, AStoppedPrintoutIsAbandonedWithoutAWord) {
+  InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", "01"},
+                                       {"emp_employer_id", "1"},
+                                       {"taxation_number", "2"}}));
+  for (int n = 1; n <= 5; ++n) {
+    InsertRow(db_,
+              With<EmployeeRow>(
+                  n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
+  }
+  store_.vars.PeriodFrom = u"012026"_s;
+  store_.vars.PeriodTo = u"032026"_s;
+  dialogs_.answers = {true};
+  dialogs_.stop_at = 2;
+  PrintDeclaration(store_.vars, dialogs_, Kind::Common);
+  EXPECT_EQ(dialogs_.pdf_names, QStringList{u"OVT-common-1-2026-01_2026-03.pdf"_s});
+  EXPECT_EQ(dialogs_.printed, std::vector{false});
+  EXPECT_EQ(dialogs_.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
+  EXPECT_TRUE(dialogs_.messages.empty());
+  EXPECT_EQ(dialogs_.busy_calls, (std::vector{true, false}));
+  const CapturePrinter& printer = dialogs_.printers.at(0);
+  EXPECT_EQ(printer.pages.size(), 2u);
+  EXPECT_EQ(printer.calls.back(), u"kill"_s);
+  EXPECT_EQ(printer.calls.count(u"end"_s), 0);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
+#include "header/ovt_form1.h"
+#include "header/texts.h"
 #include "shell/carry_over.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
@@ -111,6 +113,107 @@ TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {
   db_.Exec("DROP TRIGGER fail");
   dialogs_.messages.clear();
   ExpectCopied(Kind::Common, 3);
+}
+
+// The previous header's period and the new one ("MMYYYY-MMYYYY MMYYYY-MMYYYY"),
+// and lines of a declaration with these payroll months ("month/year ...").
+class PayrollMove : public CarryOver {
+ protected:
+  void Prepare(const QString& periods, const QString& months, int id = kNew) {
+    QString sql =
+        u"DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES; INSERT INTO "
+        u"QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year) VALUES (5, "
+        u"'%1', '%2', '%3', '%4');"_s.arg(periods.left(2), periods.mid(2, 4), periods.mid(7, 2),
+                                          periods.mid(9, 4));
+    int row = 0;
+    for (const QString& month : months.split(u' ')) {
+      sql +=
+          u"INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year) VALUES (%1, %2, '%3');"_s
+              .arg(id)
+              .arg(++row)
+              .arg(QString(month).replace(u'/', u"', '"_s));
+    }
+    db_.Exec(sql.toStdString());
+    store_.vars.PeriodFrom = periods.mid(14, 6);
+    store_.vars.PeriodTo = periods.right(6);
+  }
+  QStringList Months() {
+    QStringList months;
+    Statement& lines = db_.Prepare(
+        "SELECT sal_month || '/' || sal_year FROM QOR_EMPLOYEES WHERE id = 6 ORDER BY row_num");
+    while (lines.Next()) months << lines.Value(0).value_or(QString());
+    return months;
+  }
+};
+
+// The k-th month of the previous period becomes the k-th of the new one (its
+// last when it is shorter); a month outside the previous period, or none,
+// stays; nothing is asked when nothing would change. A failure on the way
+// leaves every line as copied; the construction kind is never asked.
+TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
+  // previous and new period, the lines' months, the answer, the months after
+  // ("-": nothing asked)
+  const char* cases[] = {
+      "012026-032026 042026-062026|01/2026 02/2026 03/2026 12/2025 /|yes|04/2026 05/2026 06/2026 "
+      "12/2025 /",
+      "012026-032026 042026-062026|3/2026|no|3/2026",
+      "032026-032026 042026-042026|3/2026 02/2026|yes|04/2026 02/2026",
+      "102025-122025 012026-012026|10/2025 12/2025|yes|01/2026 01/2026",
+      "122025-122025 012026-032026|12/2025|yes|01/2026",
+      "012026-032026 012026-032026|01/2026|yes|-"};
+  for (const char* text : cases) {
+    const QStringList c = QString::fromUtf8(text).split(u'|');
+    Prepare(c[0], c[1]);
+    dialogs_.questions.clear();
+    dialogs_.answers = {c[2] == u"yes"};
+    OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
+    EXPECT_EQ(dialogs_.questions.size(), c[3] == u"-" ? 0u : 1u) << text;
+    EXPECT_EQ(Months().join(u' '), c[3] == u"-" ? c[1] : c[3]) << text;
+  }
+  EXPECT_TRUE(dialogs_.messages.empty());
+
+  Prepare(u"012026-032026 042026-062026"_s, u"01/2026 03/2026 12/2025"_s);
+  OfferPayrollMove(store_.vars, dialogs_, Kind::Construction);
+  db_.Exec(
+      "CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' "
+      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  dialogs_.answers = {true};
+  OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
+  ASSERT_EQ(dialogs_.questions.size(), 1u);
+  EXPECT_EQ(
+      dialogs_.questions[0].text,
+      texts::kPayrollMoveQuestion.arg(u"01/2026 έως 03/2026"_s, u"04/2026 έως 06/2026"_s) +
+          u"\r\n\r\n01/2026 σε 04/2026, γραμμές: 1\r\n03/2026 σε 06/2026, γραμμές: 1\r\n\r\n"_s +
+          texts::kPayrollMoveLeft.arg(1));
+  EXPECT_EQ(Months(), (QStringList{u"01/2026"_s, u"03/2026"_s, u"12/2025"_s}));
+  EXPECT_FALSE(db_.InTransaction());
+  EXPECT_EQ(dialogs_.LastMessage(),
+            ErrorMessage(texts::kPayrollMoveFailed, {SQLITE_CONSTRAINT, u"injected"_s}));
+}
+
+// The header save asks once the header is stored and shown in the view
+// state, after the message that says so.
+TEST_F(PayrollMove, TheHeaderSaveAsksAfterItsMessage) {
+  struct Watching : testing::FakeDialogs {
+    std::function<void()> asked;
+    bool Ask(const QString& text, const QString& title, AskStyle style) override {
+      asked();
+      return FakeDialogs::Ask(text, title, style);
+    }
+  } dialogs;
+  Prepare(u"012026-032026 042026-062026"_s, u"02/2026"_s, kPrevious);
+  store_.vars.CarryOver = true;
+  testing::FakeScreens screens;
+  OvtForm1 form(store_.vars, dialogs, screens);
+  form.Load();
+  dialogs.answers = {true};
+  dialogs.asked = [&] {
+    EXPECT_EQ(dialogs.LastMessage(), header_texts::kSaveDone);
+    EXPECT_TRUE(form.At(u"UpDateCmd"_s).visible && !dialogs.busy);
+  };
+  form.SaveCmd_Click();
+  EXPECT_EQ(dialogs.questions.size(), 1u);
+  EXPECT_EQ(Months(), QStringList{u"05/2026"_s});
 }
 
 }  // namespace

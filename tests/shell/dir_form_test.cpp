@@ -1,5 +1,6 @@
 // The directory dialog: which directory it hands back, and the drive that
-// cannot be read.
+// cannot be read; which mounted volumes its drive list offers, in which order
+// and by which name.
 
 #include <gtest/gtest.h>
 
@@ -7,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include "shell/dir_form.h"
+#include "shell/drives.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
 
@@ -14,6 +16,35 @@ namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+QString Shown(const QList<Drive>& drives) {
+  QStringList shown;
+  for (const Drive& drive : drives) shown << drive.name + u'=' + drive.root;
+  return shown.join(u' ');
+}
+
+TEST(DrivesOf, RemovableByLabelThenHomeThenRoot) {
+  const QList<Volume> volumes = {{u"/"_s, {}},
+                                 {u"/boot/efi"_s, u"EFI"_s},
+                                 {u"/run/media/u/X"_s, u"X"_s},
+                                 {u"/media/u/S"_s, u"S"_s},
+                                 {u"/mnt"_s, {}},
+                                 {u"/media/u/X2"_s, u"X"_s},
+                                 {u"/mediax"_s, u"M"_s},
+                                 {u"/mnt/a"_s, u"/"_s}};
+  EXPECT_EQ(Shown(DrivesOf(volumes, u"/home/u/"_s)),
+            u"S=/media/u/S /media/u/X2=/media/u/X2 /mnt=/mnt /mnt/a=/mnt/a "
+            "/run/media/u/X=/run/media/u/X /home/u=/home/u /=/"_s);
+  EXPECT_EQ(Shown(DrivesOf({}, u"/"_s)), u"/=/"_s);
+}
+
+// The drive shown for a path is the one with the longest root holding it.
+TEST(DriveOf, TheLongestRootHoldingThePath) {
+  const QList<Drive> drives{{u"/"_s, u"/"_s}, {u"u"_s, u"/home/u"_s}, {u"v"_s, u"/home/v"_s}};
+  EXPECT_EQ(DriveOf(drives, u"/home/u/x"_s), 1);
+  EXPECT_EQ(DriveOf(drives, u"/home/uv"_s), 0);
+  EXPECT_EQ(DriveOf({}, u"/home"_s), -1);
+}
 
 // What the user does, step by step: "open:", "highlight:" a directory below
 // home, choose a "drive:", "cancel" or "close"; then OK unless closed. Home
@@ -71,7 +102,57 @@ TEST(DirDialog, HandsBackTheOpenedDirectory) {
     EXPECT_EQ(dialogs.busy_calls,
               (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
   }
-  EXPECT_EQ(DirForm::FocusOrder(), QString(u"Dir1 Drive1 Command1 Command2"_s).split(u' '));
+  EXPECT_EQ(DirForm::FocusOrder(),
+            QString(u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s).split(u' '));
+}
+
+// In the program's directory app/, which holds out/ and a file "note": a
+// path typed into PathTxt and Enter ("go:", ~ for home), or "Νέος φάκελος"
+// answered with a name ("new:") or cancelled ("new").
+TEST(DirDialog, GoesToATypedPathAndMakesANewFolder) {
+  const struct {
+    QString step, path, message;  // the opened directory below home; %1 the typed text
+  } cases[] = {
+      {u"go: out "_s, u"/app/out"_s, {}},
+      {u"go:~/stick"_s, u"/stick"_s, {}},
+      {u"go:nowhere"_s, u"/app"_s, texts::kDirPathUnreadable},
+      {u"go:note"_s, u"/app"_s, texts::kDirPathUnreadable},
+      {u"new: made "_s, u"/app/made"_s, {}},
+      {u"new:out"_s, u"/app"_s, texts::kDirFolderExists},
+      {u"new:a/b"_s, u"/app"_s, texts::kDirFolderSeparator},
+      {u"new:  "_s, u"/app"_s, texts::kDirFolderNoName},
+      {u"new"_s, u"/app"_s, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.step.toStdString());
+    QTemporaryDir temp;
+    const QString home = temp.path();
+    ASSERT_TRUE(QDir(home).mkpath(u"app/out"_s) && QDir(home).mkpath(u"stick"_s));
+    ASSERT_TRUE(QFile(home + u"/app/note"_s).open(QIODevice::WriteOnly));
+    FakeDialogs dialogs;
+    DirForm form(home + u"/app"_s, dialogs, [&home] {
+      return QList<Drive>{{u"STICK"_s, home + u"/stick"_s}, {u"home"_s, home}};
+    });
+    form.Load();
+    const QString typed = c.step.section(u':', 1).replace(u'~', home);
+    const bool go = c.step.startsWith(u"go:");
+    form.Type(u"PathTxt"_s, go ? typed : QString());
+    form.AskNamesWith([&]() -> std::optional<QString> {
+      return c.step == u"new" ? std::nullopt : std::optional(typed);
+    });
+    go ? form.PathTxt_Enter() : form.NewDirCmd_Click();
+    EXPECT_EQ(form.Path(), home + c.path);
+    EXPECT_EQ(form.Text(u"Drive1"_s), c.path == u"/stick" ? u"STICK"_s : u"home"_s);
+    EXPECT_EQ(dialogs.LastMessage(),
+              c.message.contains(u"%1") ? c.message.arg(typed.trimmed()) : c.message);
+    // A path that failed stays typed and selected; once opened, the list has the focus.
+    const bool failed = go && !c.message.isEmpty();
+    EXPECT_EQ(form.Text(u"PathTxt"_s), failed ? typed : QString());
+    EXPECT_EQ(form.SelectionOf(u"PathTxt"_s).value_or(Selection{}).length,
+              failed ? typed.size() : 0);
+    EXPECT_EQ(form.FocusedField(),
+              failed ? u"PathTxt"_s : (c.path == u"/app" ? QString() : u"Dir1"_s));
+  }
 }
 
 }  // namespace

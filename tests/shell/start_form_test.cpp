@@ -263,9 +263,8 @@ TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
 
   const QString message =
       c.broken ? ErrorMessage(kRegistryFailed, 1, kStoreOtherError.arg(1)) : c.message;
-  QStringList told;
-  for (const auto& shown : dialogs_.messages) told << shown.title << shown.text;
-  EXPECT_EQ(told, (message.isEmpty() ? QStringList() : QStringList{kAppTitle, message}));
+  EXPECT_EQ(testing::FakeDialogs::Told(dialogs_.messages),
+            (message.isEmpty() ? QStringList() : QStringList{kAppTitle, message}));
   const bool opened = c.id != 99;
   EXPECT_EQ(vars_.DeclarationId, c.id);
   EXPECT_EQ(vars_.CarryOver, opened ? c.carried : c.carry_over);

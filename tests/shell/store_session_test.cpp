@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -38,78 +37,52 @@ void Damage(const QString& path) {
   file.write(QByteArray(16, '\0'));
 }
 
-int Lines(const QString& path) {
-  auto db = Database::Open(path, StorePassword());
-  Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
-  return count.Next() ? count.Int(0) : -1;
-}
-
 TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
-  const QString backups = u"backups"_s;
+  using Path = const QString&;  // the store's folder, or the store
   std::optional<StoreLock> other_program;
   const struct {
     const char* name;
-    std::function<void(const QString& dir, const QString& path)> make;
-    std::function<QString(const QString& dir, const QString& path)> message;  // empty: none
+    std::function<void(Path dir, Path store)> make;
+    std::function<QString(Path dir, Path store)> message;  // empty: none
     bool opens;
     bool writes;  // the two changes go ahead
     int backups;  // backups in the folder afterwards (2 made beforehand when damaged)
   } cases[] = {
-      {"Sound", [](const QString&, const QString&) {}, {}, true, true, 1},
-      {"LockLeftByACrash",
-       [](const QString&, const QString& path) {
+      // clang-format off
+      {"Sound", [](Path, Path) {}, {}, true, true, 1},
+      {"LockLeftByACrash", [](Path, Path store) {
          QProcess gone;  // a process id that no process has any more
          gone.start(u"true"_s, {});
          ASSERT_TRUE(gone.waitForStarted());
          const qint64 pid = gone.processId();
          ASSERT_TRUE(gone.waitForFinished());
-         QFile lock(path + u".lock"_s);
-         ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
-         lock.write(QByteArray::number(pid) + "\nveroxia\n\n");
-       },
-       {},
-       true,
-       true,
-       1},
+         ASSERT_TRUE(testing::WriteFile(store + u".lock"_s, QByteArray::number(pid) + "\nveroxia\n\n"));
+       }, {}, true, true, 1},
       {"BackupFolderCannotBeMade",
-       [&](const QString& dir, const QString&) {
-         ASSERT_TRUE(QFile(dir + u'/' + backups).open(QIODevice::WriteOnly));
-       },
-       [](const QString& dir, const QString&) {
+       [](Path dir, Path) { ASSERT_TRUE(QFile(dir + u"/backups"_s).open(QIODevice::WriteOnly)); },
+       [](Path dir, Path) {
          return kBackupFailed.arg(dir + u"/backups"_s) + u"\r\n"_s + texts::kErrorDescription +
                 kFolderNotWritable + u"\r\n"_s + kChangesGoAhead;
-       },
-       true, true, 0},
-      {"Damaged",
-       [](const QString&, const QString& path) {
-         auto db = Database::Open(path, StorePassword());
-         MakeBackup(*db, path, StorePassword(), QDateTime(QDate(2024, 1, 2), QTime(8, 0)));
-         MakeBackup(*db, path, StorePassword(), QDateTime(QDate(2023, 12, 31), QTime(23, 59)));
+       }, true, true, 0},
+      {"Damaged", [](Path, Path store) {
+         auto db = Database::Open(store, StorePassword());
+         MakeBackup(*db, store, StorePassword(), QDateTime(QDate(2024, 1, 2), QTime(8, 0)));
+         MakeBackup(*db, store, StorePassword(), QDateTime(QDate(2023, 12, 31), QTime(23, 59)));
          db.reset();
-         Damage(path);
-       },
-       [](const QString& dir, const QString& path) {
-         return kDamaged.arg(path) + u"\r\n"_s + kBackupsListed.arg(dir + u"/backups"_s) +
+         Damage(store);
+       }, [](Path dir, Path store) {
+         return kDamaged.arg(store) + u"\r\n"_s + kBackupsListed.arg(dir + u"/backups"_s) +
                 u"\r\nQorDb-20240102-080000.mdb\r\nQorDb-20231231-235900.mdb\r\n"_s + kRestoreHint;
-       },
-       true, false, 2},
-      {"ReadOnlyFile",
-       [](const QString&, const QString& path) {
-         QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadGroup);
-       },
-       [](const QString&, const QString& path) { return kFileReadOnly.arg(path); }, false, false,
-       0},
+       }, true, false, 2},
+      {"ReadOnlyFile", [](Path, Path store) { QFile::setPermissions(store, QFile::ReadOwner); },
+       [](Path, Path store) { return kFileReadOnly.arg(store); }, false, false, 0},
       {"ReadOnlyFolder",
-       [](const QString& dir, const QString&) {
-         QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner);
-       },
-       [](const QString& dir, const QString&) { return kFolderReadOnly.arg(dir); }, false, false,
-       0},
+       [](Path dir, Path) { QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner); },
+       [](Path dir, Path) { return kFolderReadOnly.arg(dir); }, false, false, 0},
       {"HeldByAnotherProgram",
-       [&](const QString&, const QString& path) {
-         ASSERT_EQ(other_program.emplace(path).Take(), StoreLock::Outcome::kHeld);
-       },
-       [](const QString&, const QString& path) { return kHeld.arg(path); }, false, false, 0},
+       [&](Path, Path store) { ASSERT_EQ(other_program.emplace(store).Take(), StoreLock::Outcome::kHeld); },
+       [](Path, Path store) { return kHeld.arg(store); }, false, false, 0},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -138,22 +111,16 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     QFile::setPermissions(store.Path(), QFile::ReadOwner | QFile::WriteOwner);
 
     EXPECT_EQ(written, c.writes ? 2 : 0);
-    const QString message = c.message ? c.message(store.Dir(), store.Path()) : QString();
-    ASSERT_EQ(dialogs.messages.size(), message.isEmpty() ? 0u : 1u);
-    if (!message.isEmpty()) {
-      EXPECT_EQ(dialogs.messages[0].text, message);
-      EXPECT_EQ(dialogs.messages[0].title, texts::kAppTitle);
-    }
+    EXPECT_EQ(testing::FakeDialogs::Told(dialogs.messages),
+              (c.message ? QStringList{texts::kAppTitle, c.message(store.Dir(), store.Path())}
+                         : QStringList()));
     EXPECT_EQ(ended, c.opens && !c.writes ? 1 : 0);
     const QStringList made = ListBackups(store.Path());
     EXPECT_EQ(made.size(), c.backups);
-    if (!c.writes) {
-      EXPECT_EQ(testing::FileBytes(store.Path()), before);
-    }
-    // The backup was made before the first change reached the store.
-    if (c.writes && c.backups == 1) {
-      EXPECT_EQ(Lines(made.first()), 3000);
-    }
+    // A refused or damaged store is never written to; the backup was made
+    // before the first change reached the store.
+    EXPECT_TRUE(c.writes || testing::FileBytes(store.Path()) == before);
+    EXPECT_TRUE(!c.writes || c.backups != 1 || testing::CommonLinesIn(made.first()) == 3000);
     EXPECT_FALSE(QFileInfo::exists(store.Path() + u".lock"_s));
   }
 }
@@ -230,7 +197,10 @@ TEST(StoreSession, AWriteBackThatFailsAtCloseIsToldAndLosesNothing) {
       EXPECT_EQ(QFileInfo(store.Path() + u"-wal"_s).size(), 0);
     }
     reader.reset();
-    EXPECT_EQ(Lines(store.Path()), 6);
+    const auto db = Database::Open(store.Path(), StorePassword());
+    Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
+    ASSERT_TRUE(count.Next());
+    EXPECT_EQ(count.Int(0), 6);
   }
 }
 

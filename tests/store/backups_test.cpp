@@ -27,12 +27,6 @@ QStringList Names(const QStringList& paths) {
   return names;
 }
 
-int Lines(const QString& path) {
-  auto db = Database::Open(path, StorePassword());
-  Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
-  return count.Next() ? count.Int(0) : -1;
-}
-
 // Each backup gets a name of its own, a second one in the same second
 // included; only the newest are kept, whatever order they were made in, and
 // files of other names in the folder are left alone.
@@ -99,10 +93,10 @@ TEST(Backups, RestoreBringsBackTheBackupAndKeepsTheReplacedStore) {
   for (const char* companion : {"-wal", "-shm", ".restore"}) {
     EXPECT_FALSE(QFileInfo::exists(store.Path() + QString::fromLatin1(companion))) << companion;
   }
-  EXPECT_EQ(Lines(store.Path()), 5);
-  EXPECT_EQ(Lines(backup), 5);
+  EXPECT_EQ(testing::CommonLinesIn(store.Path()), 5u);
+  EXPECT_EQ(testing::CommonLinesIn(backup), 5u);
   QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner);
-  EXPECT_EQ(Lines(kept), 12);
+  EXPECT_EQ(testing::CommonLinesIn(kept), 12u);
 }
 
 }  // namespace

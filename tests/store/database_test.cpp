@@ -11,22 +11,12 @@
 #include "store/schema.h"
 #include "store/store_file.h"
 #include "store/texts.h"
+#include "support/files.h"
 
 namespace veroxia {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-QByteArray Bytes(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<unreadable>");
-}
-
-void Write(const QString& path, const QByteArray& bytes) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-  file.write(bytes);
-}
 
 // Only a writable store with all its tables opens, with its password only;
 // a failed open changes nothing, leaves no companion file, and no store is
@@ -60,10 +50,10 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
       // clang-format off
       {"Created", store(nullptr), password, SQLITE_OK, {}},
       {"WrongPassword", store(nullptr), u"41kase42"_s, SQLITE_NOTADB, {}},
-      {"NotAStore", [](const QString& path) { Write(path, QByteArray(8192, 'x')); }, password, SQLITE_NOTADB, {}},
+      {"NotAStore", [](const QString& path) { ASSERT_TRUE(testing::WriteFile(path, QByteArray(8192, 'x'))); }, password, SQLITE_NOTADB, {}},
       {"Missing", [](const QString&) {}, password, SQLITE_CANTOPEN, {}},
       {"ReadOnly", read_only, password, SQLITE_READONLY, {}},
-      {"Empty", [](const QString& path) { Write(path, {}); }, password, SQLITE_NOTADB, {}},
+      {"Empty", [](const QString& path) { ASSERT_TRUE(testing::WriteFile(path, {})); }, password, SQLITE_NOTADB, {}},
       {"PlainSqlite", plain, password, SQLITE_NOTADB, {}},
       {"OursWithoutTables", store("PRAGMA journal_mode = DELETE; DROP TABLE QOR_EMPLOYEES"), password,
        SQLITE_ERROR, store_file_texts::kTableNotOurs.arg(u"QOR_EMPLOYEES"_s)},
@@ -79,7 +69,7 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
     QTemporaryDir dir;
     const QString path = StorePath(dir.path());
     c.make(path);
-    const QByteArray before = Bytes(path);
+    const QByteArray before = testing::FileBytes(path);
     int code = SQLITE_OK;
     try {
       OpenStoreFile(path, c.password);
@@ -93,7 +83,7 @@ TEST(StoreFile, OpensOnlyAWritableWholeStoreWithItsPassword) {
     if (QFile::exists(path)) {
       EXPECT_THROW(CreateStore(path, StorePassword()), StoreError);
     }
-    EXPECT_EQ(Bytes(path), before);
+    EXPECT_EQ(testing::FileBytes(path), before);
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files),
               QFile::exists(path) ? QStringList{StoreFileName()} : QStringList{});
   }

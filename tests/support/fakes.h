@@ -53,24 +53,26 @@ struct ShownMessage {
 
 class FakeDialogs : public Dialogs {
  public:
+  // The next scripted answer, or `none` once the script has run out.
+  template <class T>
+  static T Next(std::deque<T>& script, T none) {
+    if (script.empty()) return none;
+    T answer = std::move(script.front());
+    script.pop_front();
+    return answer;
+  }
   void Message(const QString& text, const QString& title) override {
     messages.push_back({text, title, busy});
   }
   bool Ask(const QString& text, const QString& title, AskStyle style) override {
     questions.push_back({text, title});
     last_style = style;
-    if (answers.empty()) return false;
-    const bool answer = answers.front();
-    answers.pop_front();
-    return answer;
+    return Next(answers, false);
   }
   int Choose(const QString& text, const QString& title, const QStringList& buttons) override {
     questions.push_back({text, title});
     choice_buttons.push_back(buttons);
-    if (choices.empty()) return -1;
-    const int answer = choices.front();
-    choices.pop_front();
-    return answer;
+    return Next(choices, -1);
   }
   void SetBusy(bool busy) override {
     busy_calls.push_back(busy);
@@ -79,26 +81,23 @@ class FakeDialogs : public Dialogs {
 
   SearchAnswer AskInsuredPerson() override {
     ++searches_asked;
-    if (searches.empty()) return {};
-    const SearchAnswer answer = searches.front();
-    searches.pop_front();
-    return answer;
+    return Next(searches, SearchAnswer{});
   }
 
   QString AskDirectory(DirPurpose purpose) override {
     ++directories_asked;
     directory_purposes.push_back(purpose);
-    if (directories.empty()) return {};
-    const QString answer = directories.front();
-    directories.pop_front();
-    return answer;
+    return Next(directories, QString());
   }
 
-  // Draws the printout once on a capture printer, as the preview would.
-  void PrintPreview(const std::function<bool(Printer&)>& draw) override {
+  // Draws the printout once on a capture printer, as the preview would, with
+  // the progress of RunWithProgress.
+  void PrintPreview(const PrintJob& job) override {
     printers.emplace_back();
     printers.back().fails_at = printer_fails_at;
-    printed.push_back(draw(printers.back()));
+    pdf_names << job.pdf_name;
+    Scripted progress(*this);
+    printed.push_back(job.draw(printers.back(), progress));
   }
 
   void ShowReport(const Report& report) override { reports.push_back(report); }
@@ -106,40 +105,29 @@ class FakeDialogs : public Dialogs {
   bool ConfirmReport(const Report& report, const QString& go_on) override {
     confirmed.push_back(report);
     confirm_captions << go_on;
-    if (confirms.empty()) return true;
-    const bool answer = confirms.front();
-    confirms.pop_front();
-    return answer;
+    return Next(confirms, true);
   }
 
   QString AskFile(const FileQuestion& question) override {
     file_questions.push_back(question);
-    if (files.empty()) return {};
-    const QString answer = files.front();
-    files.pop_front();
-    return answer;
+    return Next(files, QString());
   }
 
   // Runs the task; the user stops it at the `stop_at`-th report of progress
   // (from 1; never when 0), which answers false from then on.
   void RunWithProgress(const QString& text, const std::function<void(Progress&)>& task) override {
-    class Scripted : public Progress {
-     public:
-      explicit Scripted(FakeDialogs& owner) : owner_(owner) {}
-      bool Advance(qint64 done, qint64 total) override {
-        owner_.progress.emplace_back(done, total);
-        return owner_.stop_at == 0 || static_cast<int>(owner_.progress.size()) < owner_.stop_at;
-      }
-
-     private:
-      FakeDialogs& owner_;
-    };
     progress_texts << text;
     Scripted progress(*this);
     task(progress);
   }
 
   QString LastMessage() const { return messages.empty() ? QString() : messages.back().text; }
+  // The title and text of each message (or question), in turn.
+  static QStringList Told(const std::vector<ShownMessage>& shown) {
+    QStringList told;
+    for (const ShownMessage& message : shown) told << message.title << message.text;
+    return told;
+  }
 
   std::vector<ShownMessage> messages;
   std::vector<Report> reports;
@@ -166,6 +154,20 @@ class FakeDialogs : public Dialogs {
   QStringList progress_texts;
   std::vector<std::pair<qint64, qint64>> progress;  // every report of progress
   int stop_at = 0;
+  QStringList pdf_names;  // the PDF file name each preview offers
+
+ private:
+  class Scripted : public Progress {
+   public:
+    explicit Scripted(FakeDialogs& owner) : owner_(owner) {}
+    bool Advance(qint64 done, qint64 total) override {
+      owner_.progress.emplace_back(done, total);
+      return owner_.stop_at == 0 || static_cast<int>(owner_.progress.size()) < owner_.stop_at;
+    }
+
+   private:
+    FakeDialogs& owner_;
+  };
 };
 
 class FakeScreens : public Screens {

@@ -8,6 +8,7 @@
 #include "store/declarations.h"
 #include "store/rows.h"
 #include "store/schema.h"
+#include "store/store_file.h"
 #include "support/printers.h"
 
 namespace veroxia::testing {
@@ -76,5 +77,10 @@ void AddLines(Database& db, Kind kind, int id, int count, int shared = 0);
 
 // Every column of every row of a table, in the order the rows were stored.
 std::vector<std::vector<Text>> DumpTable(Database& db, const char* table);
+
+// The common lines of every declaration in the store file.
+inline size_t CommonLinesIn(const QString& path) {
+  return DumpTable(*Database::Open(path, StorePassword()), "QOR_EMPLOYEES").size();
+}
 
 }  // namespace veroxia::testing

@@ -4,8 +4,6 @@
 #include <QPagedPaintDevice>
 #include <cerrno>
 
-#include "filing/volume_files.h"
-
 namespace veroxia {
 
 namespace {
@@ -31,41 +29,88 @@ qsizetype FittingLength(const QString& line, qsizetype from, const QFontMetricsF
   return fits;
 }
 
+void ApplySize(QFont& font, const QString& size) {
+  bool ok = false;
+  const double points = size.trimmed().toDouble(&ok);  // never the machine's locale
+  if (ok && points > 0) font.setPointSizeF(points);
+}
+
+void ApplyName(QFont& font, const QString& name) {
+  const QString fallback = QString::fromUtf16(kPrintoutFamily);
+  if (!QFont::substitutes(name).contains(fallback)) QFont::insertSubstitution(name, fallback);
+  font.setFamilies({name});
+  font.setStyleHint(QFont::TypeWriter);
+  font.setFixedPitch(true);
+}
+
+QFont FirstFont() {
+  QFont font;
+  font.setPointSizeF(kFirstSize);
+  ApplyName(font, QString::fromUtf16(kFirstName));
+  return font;
+}
+
 }  // namespace
 
-PrinterError SystemPrinterError(int code) { return {code, FileErrorDescription(code)}; }
+QFont PrintoutFont(const QString& size, const QString& name) {
+  QFont font = FirstFont();
+  ApplySize(font, size);
+  if (!name.isEmpty()) ApplyName(font, name);
+  return font;
+}
+
+SheetLines::SheetLines(const QFont& font, const QPaintDevice* device, QSizeF area)
+    : font_(font), device_(device), area_(area) {
+  const QFontMetricsF metrics(font_, device_);
+  line_spacing_ = metrics.lineSpacing();
+  line_height_ = metrics.height();
+  ascent_ = metrics.ascent();
+}
+
+void SheetLines::Place(QString line, const std::function<void()>& new_sheet,
+                       const std::function<void(QPointF, const QString&)>& draw) {
+  qsizetype end = line.size();
+  while (end > 0 && line[end - 1] == u' ') --end;
+  line.truncate(end);
+  const QFontMetricsF metrics(font_, device_);
+  qsizetype from = 0;
+  do {
+    if (top_ > 0 && top_ + line_height_ > area_.height()) {
+      top_ = 0;
+      new_sheet();
+    }
+    const qsizetype length = FittingLength(line, from, metrics, area_.width());
+    if (length > 0) draw(QPointF(0, top_ + ascent_), line.sliced(from, length));
+    top_ += line_spacing_;
+    from += length;
+  } while (from < line.size());
+}
 
 PainterPrinter::PainterPrinter(QPagedPaintDevice& device, std::function<void()> abort)
-    : device_(device), abort_(std::move(abort)) {
-  font_.setPointSizeF(kFirstSize);
-  SetFontName(QString::fromUtf16(kFirstName));
-}
+    : device_(device), abort_(std::move(abort)), font_(FirstFont()) {}
 
 PainterPrinter::~PainterPrinter() = default;
 
 void PainterPrinter::SetFontSize(const QString& size) {
-  bool ok = false;
-  const double points = size.trimmed().toDouble(&ok);  // never the machine's locale
-  if (!ok || points <= 0) return;
-  font_.setPointSizeF(points);
-  UseFont();
+  QFont font = font_;
+  ApplySize(font, size);
+  UseFont(font);
 }
 
 void PainterPrinter::SetFontName(const QString& name) {
-  const QString fallback = QString::fromUtf16(kPrintoutFamily);
-  if (!QFont::substitutes(name).contains(fallback)) QFont::insertSubstitution(name, fallback);
-  font_.setFamilies({name});
-  font_.setStyleHint(QFont::TypeWriter);
-  font_.setFixedPitch(true);
-  UseFont();
+  QFont font = font_;
+  ApplyName(font, name);
+  UseFont(font);
 }
 
-void PainterPrinter::UseFont() {
-  const QFontMetricsF metrics(font_, &device_);
-  line_spacing_ = metrics.lineSpacing();
-  line_height_ = metrics.height();
-  ascent_ = metrics.ascent();
-  if (painter_.isActive()) painter_.setFont(font_);
+void PainterPrinter::UseFont(QFont font) {
+  font_ = std::move(font);
+  if (!painter_.isActive()) return;
+  painter_.setFont(font_);
+  // Lines go on from where they are, spaced for the new font.
+  std::optional<SheetLines> lines(std::in_place, font_, &device_, lines_->Area());
+  lines->MoveTo(lines_->Top());
+  lines_ = std::move(lines);
 }
 
 bool PainterPrinter::Begin() {
@@ -77,37 +122,28 @@ bool PainterPrinter::Begin() {
     throw SystemPrinterError(errno != 0 ? errno : EIO);
   }
   painter_.setFont(font_);
-  width_ = device_.width();
-  height_ = device_.height();
-  top_ = 0;
+  lines_.emplace(font_, &device_, QSizeF(device_.width(), device_.height()));
   return true;
 }
 
 void PainterPrinter::Print(const QString& text) {
   if (!Begin()) return;
-  for (const QStringView line : QStringView(text).tokenize(u"\r\n")) DrawLine(line.toString());
+  for (const QStringView line : QStringView(text).tokenize(u"\r\n")) {
+    lines_->Place(
+        line.toString(), [this] { NewSheet(); },
+        [this](QPointF baseline, const QString& piece) { painter_.drawText(baseline, piece); });
+  }
 }
 
-void PainterPrinter::DrawLine(QString line) {
-  qsizetype end = line.size();
-  while (end > 0 && line[end - 1] == u' ') --end;
-  line.truncate(end);
-  const QFontMetricsF metrics(font_, &device_);
-  qsizetype from = 0;
-  do {
-    if (top_ > 0 && top_ + line_height_ > height_) NewPage();
-    const qsizetype length = FittingLength(line, from, metrics, width_);
-    if (length > 0) painter_.drawText(QPointF(0, top_ + ascent_), line.sliced(from, length));
-    top_ += line_spacing_;
-    from += length;
-  } while (from < line.size());
+void PainterPrinter::NewSheet() {
+  errno = 0;
+  if (!device_.newPage()) throw SystemPrinterError(errno != 0 ? errno : EIO);
 }
 
 void PainterPrinter::NewPage() {
   if (!Begin()) return;
-  errno = 0;
-  if (!device_.newPage()) throw SystemPrinterError(errno != 0 ? errno : EIO);
-  top_ = 0;
+  NewSheet();
+  lines_->Restart();
 }
 
 void PainterPrinter::EndDoc() {

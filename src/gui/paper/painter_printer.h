@@ -23,6 +23,7 @@
 #include <QPainter>
 #include <QString>
 #include <functional>
+#include <optional>
 
 #include "printing/printer.h"
 
@@ -33,9 +34,39 @@ namespace veroxia {
 // The family the printouts' font falls back to.
 inline constexpr char16_t kPrintoutFamily[] = u"Liberation Mono";
 
-// The failure of a system call that set errno to `code`: its number and what
-// it means, in our words (FileErrorDescription).
-PrinterError SystemPrinterError(int code);
+// The font of a printout whose font was set to that size (a text of points;
+// one that is not a positive number leaves the first size, 10) and name (an
+// empty one leaves the first name, "Courier New Greek").
+QFont PrintoutFont(const QString& size, const QString& name);
+
+// Where the lines of printed text lie on the sheets of a paged device, in its
+// pixels from the top left corner of its printable area, as described above.
+class SheetLines {
+ public:
+  // For lines in `font` as measured for `device`, on a printable area of
+  // that size.
+  SheetLines(const QFont& font, const QPaintDevice* device, QSizeF area);
+  // Lays out one line: `draw` is called with the start of the baseline and
+  // the text of each piece it is broken into, and `new_sheet` before a piece
+  // that starts a new sheet.
+  void Place(QString line, const std::function<void()>& new_sheet,
+             const std::function<void(QPointF, const QString&)>& draw);
+  // The next line goes at the top of the (next) sheet.
+  void Restart() { top_ = 0; }
+  // Where the next line goes, from the top of the printable area.
+  qreal Top() const { return top_; }
+  void MoveTo(qreal top) { top_ = top; }
+  QSizeF Area() const { return area_; }
+
+ private:
+  QFont font_;
+  const QPaintDevice* device_;
+  qreal line_spacing_;
+  qreal line_height_;
+  qreal ascent_;
+  QSizeF area_;
+  qreal top_ = 0;  // of the next line
+};
 
 class PainterPrinter : public Printer {
  public:
@@ -59,21 +90,16 @@ class PainterPrinter : public Printer {
   const QFont& Font() const { return font_; }
 
  private:
-  void UseFont();
+  void UseFont(QFont font);
+  void NewSheet();
   // Starts painting unless it has started; false once the job has ended.
   bool Begin();
-  void DrawLine(QString line);
 
   QPagedPaintDevice& device_;
   std::function<void()> abort_;
   QPainter painter_;
   QFont font_;
-  qreal line_spacing_ = 0;
-  qreal line_height_ = 0;
-  qreal ascent_ = 0;
-  qreal width_ = 0;  // of the printable area
-  qreal height_ = 0;
-  qreal top_ = 0;  // of the next line, from the top of the printable area
+  std::optional<SheetLines> lines_;  // while painting
   bool ended_ = false;
 };
 
