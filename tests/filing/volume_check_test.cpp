@@ -72,25 +72,6 @@ TEST(VolumeCheck, VolumesAsWrittenHold) {
   }
 }
 
-// Every byte from 0x80 on, one at a time in a header: those Windows-1253
-// leaves undefined are found, the rest pass.
-TEST(VolumeCheck, ForeignBytesAreThoseTheCodePageLeavesUndefined) {
-  testing::TempStore store;
-  ASSERT_EQ(WriteDeclaration(store.Open(), Kind::Common, 0, 0, store.Dir()), 1);
-  const QString volume = store.Dir() + u"/CSL01"_s;
-  const QByteArray written = testing::FileBytes(volume);
-  const QByteArray undefined(
-      "\x81\x88\x8A\x8C\x8D\x8E\x8F\x90\x98\x9A\x9C\x9D\x9E\x9F\xAA\xD2\xFF");
-  for (int byte = 0x80; byte <= 0xFF; ++byte) {
-    QByteArray bytes = written;
-    bytes[100 + byte % 16] = static_cast<char>(byte);  // at each place of a piece of sixteen
-    Write(volume, bytes);
-    const VolumeCheck check = VerifyVolumes(store.Dir());
-    EXPECT_EQ(check.AllHold(), !undefined.contains(static_cast<char>(byte))) << byte;
-    EXPECT_EQ(check.findings.size(), check.AllHold() ? 0u : 1u) << byte;
-  }
-}
-
 // Copies of three written volumes, each broken in one way, and where the
 // finding must be.
 class BrokenVolumes : public ::testing::Test {

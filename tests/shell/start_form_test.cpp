@@ -8,7 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <functional>
 
 #include "shell/errors.h"
 #include "shell/start_form.h"
@@ -89,34 +88,6 @@ TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
   again.Command3_Click();
   EXPECT_TRUE(!vars_.StoreOpen && !vars_.StoreConnection);
   EXPECT_EQ(screens_.quit_status, 0);
-}
-
-// A store that cannot be used is told once, stays closed, and the program
-// ends before anything is shown.
-TEST(StartScreenStore, UnusableStoreEndsTheProgram) {
-  const struct {
-    const char* name;
-    std::function<void(const QString& path)> make;
-    QString message;
-  } cases[] = {
-      // clang-format off
-      // Files that are no store of ours: the program's own test.
-      {"Missing", [](const QString&) {}, kStoreMissing},
-      // clang-format on
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    testing::TempStore store(false);
-    testing::FakeDialogs dialogs;
-    testing::FakeScreens screens;
-    c.make(store.Path());
-    EXPECT_FALSE(StartForm(store.vars, dialogs, screens).Load());
-    EXPECT_TRUE(!store.vars.StoreOpen && !store.vars.StoreConnection);
-    ASSERT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_EQ(dialogs.messages[0].title + dialogs.messages[0].text, kAppTitle + c.message);
-    EXPECT_EQ(screens.quit_status, 1);
-    EXPECT_TRUE(screens.shown.isEmpty());
-  }
 }
 
 // A kind button opens the period fields of its kind in the focus order;
