@@ -1,10 +1,7 @@
 // veroxia-cli run as a process on a store made here: the lines of each kind
 // out to a CSV file and back, every command, the printouts as PDF.
 
-#include <gtest/gtest.h>
-
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <optional>
 
@@ -19,11 +16,9 @@
 #include "shell/texts.h"
 #include "store/backups.h"
 #include "store/store_lock.h"
-#include "support/fakes.h"
 #include "support/files.h"
 #include "support/lines_csv.h"
 #include "support/pdf_text.h"
-#include "support/printers.h"
 #include "support/store_rows.h"
 
 namespace veroxia {

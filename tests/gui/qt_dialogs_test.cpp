@@ -1,17 +1,12 @@
 // What the message boxes show, and the hourglass; the report window, every
 // column and note readable, the faults marked.
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QListWidget>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QThread>

@@ -1,14 +1,8 @@
 // Employee lines from CSV files: how a file is read, every row through the
 // screen's own checks, all stored or none, and the road the user takes.
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
-#include "lines/import_texts.h"
 #include "lines/line_import.h"
-#include "lines/line_kinds.h"
-#include "lines/ovt_form2.h"
+#include "lines/import_texts.h"
 #include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"

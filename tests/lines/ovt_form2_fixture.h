@@ -3,11 +3,8 @@
 // passes every check, lines stored behind the screen, the mode it shows and
 // the lines stored.
 
-#include <gtest/gtest.h>
-
 #include "lines/ovt_form2.h"
 #include "store/lines.h"
-#include "support/fakes.h"
 #include "support/printers.h"
 #include "support/screen_test.h"
 

@@ -5,7 +5,6 @@
 
 #include "lines/ovt_form4_fixture.h"
 #include "lines/texts.h"
-#include "shell/texts.h"
 #include "support/rule_chain.h"
 #include "support/store_rows.h"
 

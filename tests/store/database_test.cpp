@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <functional>
 

@@ -69,9 +69,8 @@ class FakeDialogs : public Dialogs {
     last_style = style;
     return Next(answers, false);
   }
-  int Choose(const QString& text, const QString& title, const QStringList& buttons) override {
+  int Choose(const QString& text, const QString& title, const QStringList&) override {
     questions.push_back({text, title});
-    choice_buttons.push_back(buttons);
     return Next(choices, -1);
   }
   void SetBusy(bool busy) override {
@@ -79,14 +78,10 @@ class FakeDialogs : public Dialogs {
     this->busy = busy;
   }
 
-  SearchAnswer AskInsuredPerson() override {
-    ++searches_asked;
-    return Next(searches, SearchAnswer{});
-  }
+  SearchAnswer AskInsuredPerson() override { return Next(searches, SearchAnswer{}); }
 
-  QString AskDirectory(DirPurpose purpose) override {
+  QString AskDirectory(DirPurpose) override {
     ++directories_asked;
-    directory_purposes.push_back(purpose);
     return Next(directories, QString());
   }
 
@@ -135,18 +130,15 @@ class FakeDialogs : public Dialogs {
   std::deque<bool> answers;  // scripted answers to Ask, in order; No when none is left
   AskStyle last_style = AskStyle::Plain;
   std::deque<int> choices;  // scripted answers to Choose, in order; closed (-1) when none
-  std::vector<QStringList> choice_buttons;  // the buttons of each Choose
   std::vector<bool> busy_calls;
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
-  int searches_asked = 0;
-  std::deque<QString> directories;  // scripted answers of the directory dialog; cancel when none
+  std::deque<QString> directories;    // scripted answers of the directory dialog; cancel when none
   int directories_asked = 0;
-  std::vector<DirPurpose> directory_purposes;  // what each directory was asked for
-  std::vector<CapturePrinter> printers;        // one for each preview, in order
-  std::vector<bool> printed;                   // what each drawing answered
-  int printer_fails_at = -1;                   // see CapturePrinter::fails_at
-  std::vector<Report> confirmed;               // reports shown with a button to go on
+  std::vector<CapturePrinter> printers;  // one for each preview, in order
+  std::vector<bool> printed;             // what each drawing answered
+  int printer_fails_at = -1;             // see CapturePrinter::fails_at
+  std::vector<Report> confirmed;         // reports shown with a button to go on
   QStringList confirm_captions;
   std::deque<bool> confirms;  // scripted answers of ConfirmReport; go on when none is left
   std::vector<FileQuestion> file_questions;
