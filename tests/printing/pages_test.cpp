@@ -336,7 +336,7 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
   }
 }
 
-TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
+TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsIt) {
   InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", "01"},
                                          {"emp_employer_id", "1"},
                                          {"taxation_number", "2"}}));
@@ -359,30 +359,25 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
   EXPECT_EQ(dialogs_.printers[0].calls,
             (QStringList{u"size 10"_s, u"name Courier New Greek"_s, u"print"_s, u"end"_s}));
   EXPECT_TRUE(dialogs_.printers[1].pages[0].contains(pt::kSumTitle));
-}
-
-// A printout the user stops is abandoned at once and nothing is told; the
-// preview offers it under the declaration's name.
-TEST_F(PagesTest, AStoppedPrintoutIsAbandonedWithoutAWord) {
-  InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", "01"},
-                                         {"emp_employer_id", "1"},
-                                         {"taxation_number", "2"}}));
-  for (int n = 1; n <= 5; ++n) {
+  // A printout the user stops is abandoned at once and nothing is told; the
+  // preview offers it under the declaration's name.
+  for (int n = 2; n <= 5; ++n) {
     InsertRow(db_,
               Filled<EmployeeRow>(
                   n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
   }
+  FakeDialogs dialogs;
   store_.vars.PeriodFrom = u"012026"_s;
   store_.vars.PeriodTo = u"032026"_s;
-  dialogs_.answers = {true};
-  dialogs_.stop_at = 2;
-  PrintDeclaration(store_.vars, dialogs_, Kind::Common);
-  EXPECT_EQ(dialogs_.pdf_names, QStringList{u"OVT-common-1-2026-01_2026-03.pdf"_s});
-  EXPECT_EQ(dialogs_.printed, std::vector{false});
-  EXPECT_EQ(dialogs_.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
-  EXPECT_TRUE(dialogs_.messages.empty());
-  EXPECT_EQ(dialogs_.busy_calls, (std::vector{true, false}));
-  const CapturePrinter& printer = dialogs_.printers.at(0);
+  dialogs.answers = {true};
+  dialogs.stop_at = 2;
+  PrintDeclaration(store_.vars, dialogs, Kind::Common);
+  EXPECT_EQ(dialogs.pdf_names, QStringList{u"OVT-common-1-2026-01_2026-03.pdf"_s});
+  EXPECT_EQ(dialogs.printed, std::vector{false});
+  EXPECT_EQ(dialogs.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(dialogs.busy_calls, (std::vector{true, false}));
+  const CapturePrinter& printer = dialogs.printers.at(0);
   EXPECT_EQ(printer.pages.size(), 2u);
   EXPECT_EQ(printer.calls.back(), u"kill"_s);
   EXPECT_EQ(printer.calls.count(u"end"_s), 0);
