@@ -17,6 +17,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "gui/driver.h"
 #include "gui/paper/pdf_printer.h"
 #include "printing/texts.h"
 #include "support/fakes.h"
@@ -67,11 +68,6 @@ struct Composed {
   }
 };
 
-template <class W>
-W* Child(QWidget& window, const char* name) {
-  return window.findChild<W*>(QString::fromLatin1(name));
-}
-
 TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
   const struct {
     bool fails;
@@ -88,7 +84,7 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
     QObject::connect(&poll, &QTimer::timeout, [&] {
       QWidget* window = QApplication::activeModalWidget();
       if (window == nullptr || !window->isVisible()) return;
-      count = Child<QLabel>(*window, "PageCount")->text().trimmed();
+      count = testing::Find<QLabel>(*window, "PageCount")->text().trimmed();
       window->close();
     });
     poll.start(5);
@@ -107,27 +103,29 @@ TEST(PrintPreviewTest, PagesTurnAndTheWindowFitsASmallScreen) {
   Composed printout;
   PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
   window.show();
-  auto* first = Child<QToolButton>(window, "FirstPageCmd");
-  auto* next = Child<QToolButton>(window, "NextPageCmd");
-  auto* box = Child<QSpinBox>(window, "PageBox");
+  auto* first = testing::Find<QToolButton>(window, "FirstPageCmd");
+  auto* next = testing::Find<QToolButton>(window, "NextPageCmd");
+  auto* box = testing::Find<QSpinBox>(window, "PageBox");
   EXPECT_EQ(window.Page(), 0);
   EXPECT_FALSE(first->isEnabled());
   next->click();
   EXPECT_EQ(window.Page(), 1);
   EXPECT_EQ(box->value(), 2);
-  Child<QToolButton>(window, "LastPageCmd")->click();
+  testing::Find<QToolButton>(window, "LastPageCmd")->click();
   EXPECT_EQ(window.Page(), 2);
   EXPECT_FALSE(next->isEnabled());
   EXPECT_TRUE(first->isEnabled());
+  testing::Find<QToolButton>(window, "PreviousPageCmd")->click();
+  EXPECT_EQ(window.Page(), 1);
   box->setValue(1);
   EXPECT_EQ(window.Page(), 0);
   window.ShowPage(7);  // beyond the last: the last
   EXPECT_EQ(window.Page(), 2);
   const QRect area = window.screen()->availableGeometry();
   EXPECT_TRUE(area.contains(window.frameGeometry())) << area.height();
-  EXPECT_LE(Child<QToolBar>(window, "PreviewToolbar")->sizeHint().width(), window.width());
-  EXPECT_LE(Child<QWidget>(window, "PreviewSheets")->width(),
-            Child<QWidget>(window, "PreviewScroll")->width());
+  EXPECT_LE(testing::Find<QToolBar>(window, "PreviewToolbar")->sizeHint().width(), window.width());
+  EXPECT_LE(testing::Find<QWidget>(window, "PreviewSheets")->width(),
+            testing::Find<QWidget>(window, "PreviewScroll")->width());
   EXPECT_GE(window.Zoom(), 0.85);  // 10 points stay at least 11 pixels
 }
 
