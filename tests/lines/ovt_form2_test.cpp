@@ -243,7 +243,7 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
                                                     {u"Text24"_s, u"ΕΛΕΝΗ"_s},
                                                     {u"Text27"_s, kYes},
                                                     {u"Text34"_s, u"01/02/2002"_s}};
-  for (const auto& [name, typed] : ValidLine(u"123456789"_s, u" Καΐρης-Παπαδάκης'; --"_s)) {
+  for (const auto& [name, typed] : ValidCommonLine(u"123456789"_s, u" Καΐρης-Παπαδάκης'; --"_s)) {
     const auto other = stored_otherwise.find(name);
     EXPECT_EQ(form_->Text(name), other == stored_otherwise.end() ? typed : other->second)
         << name.toStdString();
