@@ -14,20 +14,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// A line 1 of declaration 1 with the given columns, every other one Null.
-template <class Row>
-Row Filled(std::initializer_list<std::pair<const char*, QString>> values) {
-  Row row;
-  row.id = 1;
-  row.row_num = 1;
-  ForEachText(row, [&](const char* column, Text& value) {
-    for (const auto& [name, text] : values) {
-      if (std::string_view(name) == column) value = text;
-    }
-  });
-  return row;
-}
-
 QByteArray Join(std::initializer_list<const char*> fields) {
   QByteArray joined;
   for (const char* field : fields) joined += field;
@@ -164,7 +150,7 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
   // The surname is written as stored, lower case and accents too; the paid
   // contributions are longer than their field and are written whole.
   // clang-format off
-  InsertRow(db(), Filled<EmployeeRow>({
+  InsertRow(db(), testing::Filled<EmployeeRow>(1, {
       {"emp_branch_id", u"12"_s}, {"kad", u"5221"_s}, {"insured_id", u"123456789"_s},
       {"amka", u""_s}, {"surname", u"Παπαδόπουλος"_s}, {"father_name", u"ΙΩΑΝΝΗΣ"_s},
       {"birth_date", u"5/3/1970"_s}, {"taxation_id", u"12345678"_s}, {"full_day", u"1"_s},
@@ -215,7 +201,7 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
   // Three digits of days: the record grows by one.
   // clang-format off
-  InsertRow(db(), Filled<ConEmployeeRow>({
+  InsertRow(db(), testing::Filled<ConEmployeeRow>(1, {
       {"ovt_code", u"51"_s}, {"insured_id", u"123456789"_s}, {"amka", u"12345678901"_s},
       {"married_status", u"1"_s}, {"triennium_num", u"2"_s}, {"categ_code", u"1"_s},
       {"sal_from", u"01/03/2002"_s}, {"wage_code", u"3"_s}, {"insurance_days", u"125"_s},

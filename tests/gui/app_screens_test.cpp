@@ -1,9 +1,6 @@
 // One main screen at a time: the start screen, the header and employee
 // screens of both kinds, and the end of the program.
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
 #include <QPointer>
 
 #include "gui/app_screens.h"

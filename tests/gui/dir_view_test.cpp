@@ -1,16 +1,12 @@
 // The directory dialog's window: it starts in the program's directory, opens
 // a directory by double-click or Enter, and hands back the one opened.
 
-#include <gtest/gtest.h>
-
-#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QListView>
 #include <QMouseEvent>
-#include <QTemporaryDir>
 #include <QThread>
 
 #include "driver.h"

@@ -1,12 +1,7 @@
 // The header window of either kind, wired: real widgets, typed into and
 // clicked, and read with long stored values in the view and the edit state.
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QPushButton>
 #include <QRadioButton>
-#include <functional>
 #include <ostream>
 
 #include "gui/app_font.h"
@@ -72,8 +67,17 @@ class HeaderViewTest : public ::testing::TestWithParam<HeaderKind> {
   std::unique_ptr<HeaderView> view;
 };
 
+// Locked boxes (the period, the month labels) show their values in a colour
+// that stands out from the locked box's background.
 TEST_P(HeaderViewTest, EveryControlHasItsWidgetAndEachOptionItsOwnCaption) {
+  EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
+  UseReadableDisabledText();
   Open();
+  const QLineEdit* locked = Get(form->Layout().from_month_field);
+  ASSERT_FALSE(locked->isEnabled());
+  EXPECT_GE(ContrastRatio(locked->palette().color(QPalette::Disabled, QPalette::Text),
+                          locked->palette().color(QPalette::Disabled, QPalette::Base)),
+            kReadableContrast);
   for (const QString& name : form->Names()) {
     EXPECT_NE(view->findChild<QWidget*>(name), nullptr) << name.toStdString();
   }
@@ -84,7 +88,7 @@ TEST_P(HeaderViewTest, EveryControlHasItsWidgetAndEachOptionItsOwnCaption) {
     }
   }
   EXPECT_EQ(Focused(*view), u"Text2"_s);
-  EXPECT_EQ(Get(form->Layout().from_month_field)->text(), u"01"_s);
+  EXPECT_EQ(locked->text(), u"01"_s);
   Click(*view, u"Option1_1"_s);
   EXPECT_EQ(form->Text(u"Text1"_s), u"02"_s);
   EXPECT_FALSE(Get<QWidget>(u"Option1Lbl_0"_s)->isEnabled());
@@ -147,19 +151,6 @@ TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks
   EXPECT_TRUE(view->isVisible());
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_FALSE(screens.quit_status.has_value());
-}
-
-// Locked boxes (the period, the month labels) show their values in a colour
-// that stands out from the locked box's background.
-TEST_P(HeaderViewTest, LockedValuesStandOutFromTheirBoxes) {
-  EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
-  UseReadableDisabledText();
-  Open();
-  const QLineEdit* box = Get(form->Layout().from_month_field);
-  ASSERT_FALSE(box->isEnabled());
-  EXPECT_GE(ContrastRatio(box->palette().color(QPalette::Disabled, QPalette::Text),
-                          box->palette().color(QPalette::Disabled, QPalette::Base)),
-            kReadableContrast);
 }
 
 // With the real message boxes: typed texts are stored, and the box that says

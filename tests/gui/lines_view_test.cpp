@@ -66,14 +66,15 @@ class LinesViewTest : public ::testing::TestWithParam<LinesKind> {
   std::unique_ptr<LinesView> view;
 };
 
-TEST_P(LinesViewTest, EveryControlHasItsWidgetUncutAndTheFirstFieldTheFocus) {
+TEST_P(LinesViewTest, WidgetsUncutTypedTextsReachTheChecksAndTheCloseBoxAsks) {
+  const LinesKind& kind = GetParam();
   for (const QString& name : form->Names()) {
     EXPECT_NE(view->findChild<QWidget*>(name), nullptr) << name.toStdString();
   }
   ExpectNothingCut(*view);
   EXPECT_EQ(Focused(*view), form->FirstField());
-  EXPECT_EQ(Find<QLineEdit>(*view, GetParam().date)->displayText(), u"__/__/____"_s);
-  EXPECT_EQ(Find<QComboBox>(*view, GetParam().choice)->count(), 2);
+  EXPECT_EQ(Find<QLineEdit>(*view, kind.date)->displayText(), u"__/__/____"_s);
+  EXPECT_EQ(Find<QComboBox>(*view, kind.choice)->count(), 2);
   EXPECT_FALSE(Find<QPushButton>(*view, u"NewCmd"_s)->isVisible());
   EXPECT_FALSE(Find<QPushButton>(*view, u"FirstCmd"_s)->isEnabled());
   // The file buttons ask for a file to read and a file to write.
@@ -82,12 +83,8 @@ TEST_P(LinesViewTest, EveryControlHasItsWidgetUncutAndTheFirstFieldTheFocus) {
   ASSERT_EQ(dialogs.file_questions.size(), 2u);
   EXPECT_EQ(dialogs.file_questions[0].title, import_texts::kImportTitle);
   EXPECT_TRUE(dialogs.file_questions[1].save);
-}
-
-// Typed texts reach the logic (the date box as shown, the choice box by its
-// list); OK runs the checks, whose fault takes the focus; the close box asks.
-TEST_P(LinesViewTest, TypedTextsReachTheChecksAndTheCloseBoxAsks) {
-  const LinesKind& kind = GetParam();
+  // Typed texts reach the logic (the date box as shown, the choice box by its
+  // list); OK runs the checks, whose fault takes the focus; the close box asks.
   TypeInto(*view, kind.surname, u"Papas"_s);
   TypeInto(*view, kind.date, u"05031970"_s);
   Find<QComboBox>(*view, kind.choice)->setCurrentIndex(1);

@@ -13,11 +13,11 @@
 #include <QPrinterInfo>
 #include <QScreen>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
+#include "gui/driver.h"
 #include "gui/paper/pdf_printer.h"
 #include "printing/texts.h"
 #include "support/fakes.h"
@@ -68,11 +68,6 @@ struct Composed {
   }
 };
 
-template <class W>
-W* Child(QWidget& window, const char* name) {
-  return window.findChild<W*>(QString::fromLatin1(name));
-}
-
 TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
   const struct {
     bool fails;
@@ -89,7 +84,7 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
     QObject::connect(&poll, &QTimer::timeout, [&] {
       QWidget* window = QApplication::activeModalWidget();
       if (window == nullptr || !window->isVisible()) return;
-      count = Child<QLabel>(*window, "PageCount")->text().trimmed();
+      count = testing::Find<QLabel>(*window, "PageCount")->text().trimmed();
       window->close();
     });
     poll.start(5);
@@ -100,44 +95,37 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
   }
 }
 
-TEST(PrintPreviewTest, PagesAreTurnedByButtonsAndNumber) {
+// Pages are turned by the buttons and the number. The offscreen screen is
+// 800×600, smaller than the laptops' 1366×768 and 1024×768: the window, its
+// toolbar and a page's whole width at a readable size are within it.
+TEST(PrintPreviewTest, PagesTurnAndTheWindowFitsASmallScreen) {
   testing::FakeDialogs dialogs;
   Composed printout;
   PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
   window.show();
-  auto* first = Child<QToolButton>(window, "FirstPageCmd");
-  auto* next = Child<QToolButton>(window, "NextPageCmd");
-  auto* last = Child<QToolButton>(window, "LastPageCmd");
-  auto* box = Child<QSpinBox>(window, "PageBox");
+  auto* first = testing::Find<QToolButton>(window, "FirstPageCmd");
+  auto* next = testing::Find<QToolButton>(window, "NextPageCmd");
+  auto* box = testing::Find<QSpinBox>(window, "PageBox");
   EXPECT_EQ(window.Page(), 0);
   EXPECT_FALSE(first->isEnabled());
   next->click();
   EXPECT_EQ(window.Page(), 1);
   EXPECT_EQ(box->value(), 2);
-  last->click();
+  testing::Find<QToolButton>(window, "LastPageCmd")->click();
   EXPECT_EQ(window.Page(), 2);
   EXPECT_FALSE(next->isEnabled());
   EXPECT_TRUE(first->isEnabled());
+  testing::Find<QToolButton>(window, "PreviousPageCmd")->click();
+  EXPECT_EQ(window.Page(), 1);
   box->setValue(1);
   EXPECT_EQ(window.Page(), 0);
   window.ShowPage(7);  // beyond the last: the last
   EXPECT_EQ(window.Page(), 2);
-}
-
-// The offscreen screen is 800×600: smaller than the laptops' 1366×768 and
-// 1024×768. The window, its toolbar and a page's whole width at a readable
-// size are within it.
-TEST(PrintPreviewTest, FitsASmallScreen) {
-  testing::FakeDialogs dialogs;
-  Composed printout;
-  PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
-  window.show();
   const QRect area = window.screen()->availableGeometry();
   EXPECT_TRUE(area.contains(window.frameGeometry())) << area.height();
-  const auto* bar = Child<QToolBar>(window, "PreviewToolbar");
-  EXPECT_LE(bar->sizeHint().width(), window.width());
-  const QWidget* sheets = Child<QWidget>(window, "PreviewSheets");
-  EXPECT_LE(sheets->width(), Child<QWidget>(window, "PreviewScroll")->width());
+  EXPECT_LE(testing::Find<QToolBar>(window, "PreviewToolbar")->sizeHint().width(), window.width());
+  EXPECT_LE(testing::Find<QWidget>(window, "PreviewSheets")->width(),
+            testing::Find<QWidget>(window, "PreviewScroll")->width());
   EXPECT_GE(window.Zoom(), 0.85);  // 10 points stay at least 11 pixels
 }
 

@@ -1,17 +1,12 @@
 // What the message boxes show, and the hourglass; the report window, every
 // column and note readable, the faults marked.
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDialog>
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QListWidget>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QThread>
@@ -48,6 +43,9 @@ TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   EXPECT_FALSE(table->item(0, 1)->font().bold());
   EXPECT_TRUE(table->item(1, 1)->font().bold());
   EXPECT_NE(table->item(0, 1)->foreground(), table->item(1, 1)->foreground());
+  // Words read from the left, figures line up on the right.
+  EXPECT_EQ(table->item(0, 0)->textAlignment() & Qt::AlignHorizontal_Mask, int(Qt::AlignLeft));
+  EXPECT_EQ(table->item(0, 1)->textAlignment() & Qt::AlignHorizontal_Mask, int(Qt::AlignRight));
 
   auto* notes = window->findChild<QListWidget*>(u"ReportNotes"_s);
   ASSERT_NE(notes, nullptr);

@@ -2,8 +2,6 @@
 // their maximum length and shown from their first character, and button
 // captions kept off the bevel.
 
-#include <gtest/gtest.h>
-
 #include <QBoxLayout>
 #include <QHelpEvent>
 #include <QToolTip>
@@ -115,20 +113,16 @@ TEST_F(BinderTest, ALockedBoxShowsALongTextWholeAsItsTip) {
   EXPECT_EQ(combo->lineEdit()->cursorPosition(), 0);
 }
 
-TEST(WrapButtonTest, CaptionsKeepOffTheBevelAtTheNarrowestWidth) {
+// At the narrowest width the longest word keeps a character off each edge;
+// at the width it asks for, a button shows its caption on one line.
+TEST(WrapButtonTest, CaptionsKeepOffTheBevelAndStandOnOneLineWhenRoomy) {
   WrapButton button;
   button.setText(u"Εκτύπωση συγκεντρωτικού"_s);
   button.resize(button.minimumSizeHint());
   const QFontMetrics metrics = button.fontMetrics();
-  // The longest word, on a line of its own, a character away from each edge.
   const int word = metrics.horizontalAdvance(u"συγκεντρωτικού"_s);
   EXPECT_GE((button.width() - word) / 2, metrics.averageCharWidth());
   EXPECT_TRUE(button.CaptionFits());
-}
-
-// At the width it asks for, a button shows its caption on one line.
-TEST(WrapButtonTest, AtItsPreferredWidthTheCaptionStandsOnOneLine) {
-  WrapButton button;
   button.setText(u"Νέος φάκελος"_s);
   for (const double points : {8.0, 8.5, 9.0}) {
     QFont font = button.font();

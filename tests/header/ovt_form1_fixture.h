@@ -3,14 +3,11 @@
 // common one, a header that passes every check, the state of the fields and
 // buttons as one list, and the stored header rows.
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <optional>
 
 #include "header/date_box.h"
 #include "header/ovt_form1.h"
-#include "support/fakes.h"
 #include "support/screen_test.h"
 #include "support/store_rows.h"
 

@@ -4,7 +4,6 @@
 // correction. First the checks: each rule in its place of the order, the stop
 // date against the type, and the sequence runner.
 
-#include <functional>
 #include <map>
 #include <stdexcept>
 
@@ -13,7 +12,6 @@
 #include "header/header_checks.h"
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
-#include "shell/texts.h"
 #include "support/rule_chain.h"
 
 namespace veroxia {

@@ -7,8 +7,6 @@
 #include "header/ovt_form1_fixture.h"
 #include "header/texts.h"
 #include "shell/errors.h"
-#include "shell/texts.h"
-#include "store/declarations.h"
 #include "support/rule_chain.h"
 
 namespace veroxia::testing {

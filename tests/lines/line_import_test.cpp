@@ -8,8 +8,6 @@
 #include "header/texts.h"
 #include "lines/import_texts.h"
 #include "lines/line_import.h"
-#include "lines/line_kinds.h"
-#include "lines/ovt_form2.h"
 #include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"

@@ -3,13 +3,11 @@
 // passes every check, lines stored behind the screen, the mode it shows and
 // the lines stored.
 
-#include <gtest/gtest.h>
-
 #include "lines/ovt_form2.h"
 #include "store/lines.h"
-#include "support/fakes.h"
 #include "support/printers.h"
 #include "support/screen_test.h"
+#include "support/store_rows.h"
 
 namespace veroxia::testing {
 
@@ -45,29 +43,22 @@ class OvtForm2Test : public ScreenTest<OvtForm2> {
     vars_.PeriodTo = u"032002"_s;
   }
 
-  static std::vector<std::pair<QString, QString>> ValidLine(const QString& insured_id,
-                                                            const QString& surname) {
-    return ValidCommonLine(insured_id, surname);
-  }
-
   void TypeValidLine(const QString& insured_id = u"123456789"_s,
                      const QString& surname = u"Παπαδάκης"_s) {
-    for (const auto& [name, text] : ValidLine(insured_id, surname)) form_->Type(name, text);
+    for (const auto& [name, text] : ValidCommonLine(insured_id, surname)) form_->Type(name, text);
   }
 
   // A line stored behind the screen, with its number, register number and
   // surname; the other columns as a valid typed line would store them.
   void StoreLine(int row_num, const QString& insured_id, const QString& surname,
                  const QString& month = u"01"_s, int id = kId) {
-    EmployeeRow row;
+    EmployeeRow row = Filled<EmployeeRow>(row_num, {{"insured_id", insured_id},
+                                                    {"surname", surname},
+                                                    {"sal_month", month},
+                                                    {"sal_year", u"2002"_s},
+                                                    {"full_day", u"1"_s},
+                                                    {"all_days", u"0"_s}});
     row.id = id;
-    row.row_num = row_num;
-    row.insured_id = insured_id;
-    row.surname = surname;
-    row.sal_month = month;
-    row.sal_year = u"2002"_s;
-    row.full_day = u"1"_s;
-    row.all_days = u"0"_s;
     ASSERT_EQ(InsertRow(db_, row), 1);
   }
 

@@ -2,13 +2,9 @@
 // A construction-works worker screen over its own temporary store, and a line
 // that passes every check.
 
-#include <gtest/gtest.h>
-
 #include <utility>
-#include <vector>
 
 #include "lines/ovt_form4.h"
-#include "support/fakes.h"
 #include "support/screen_test.h"
 
 namespace veroxia::testing {

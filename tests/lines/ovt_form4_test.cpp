@@ -5,7 +5,6 @@
 
 #include "lines/ovt_form4_fixture.h"
 #include "lines/texts.h"
-#include "shell/texts.h"
 #include "support/rule_chain.h"
 #include "support/store_rows.h"
 
@@ -58,24 +57,14 @@ TEST_F(OvtForm4Test, RulesReportInOrderWithTheirMessagesAndFocus) {
 }
 
 // The pointer is back before the insert's message is shown.
-class BusyAtMessage : public FakeDialogs {
- public:
-  void Message(const QString& text, const QString& title) override {
-    busy_then.push_back(busy);
-    FakeDialogs::Message(text, title);
-  }
-  std::vector<bool> busy_then;
-};
-
 TEST_F(OvtForm4Test, StoresEachColumnAndShowsItBack) {
-  BusyAtMessage dialogs;
-  OvtForm4 form(store_.vars, dialogs, screens_);
-  form.Load();
+  OvtForm4& form = Open();
   EXPECT_EQ(form.FocusedField(), u"Text21"_s);
   for (const auto& [name, text] : ValidConLine(u"123456789"_s)) form.Type(name, text);
   form.OkCmd_Click();
-  EXPECT_EQ(dialogs.LastMessage(), kInsertDone);
-  EXPECT_EQ(dialogs.busy_then, std::vector<bool>{false});
+  ASSERT_EQ(dialogs_.messages.size(), 1u);
+  EXPECT_EQ(dialogs_.messages[0].text, kInsertDone);
+  EXPECT_FALSE(dialogs_.messages[0].busy);
 
   ConEmployeeRow expected;
   expected.id = kId;

@@ -16,28 +16,11 @@ using namespace Qt::StringLiterals;
 namespace pt = printing_texts;
 using testing::CapturePrinter;
 using testing::FakeDialogs;
+using testing::Filled;
+using testing::Set;
 using testing::TempStore;
 
 QString B(int count) { return QString(count, u' '); }
-
-// The row with the given columns set.
-template <class Row>
-Row Set(Row row, std::initializer_list<std::pair<const char*, Text>> values) {
-  ForEachText(row, [&](const char* column, Text& value) {
-    for (const auto& [name, text] : values) {
-      if (std::string_view(name) == column) value = text;
-    }
-  });
-  return row;
-}
-// Only the given columns set, every other one Null.
-template <class Row>
-Row With(int row_num, std::initializer_list<std::pair<const char*, Text>> values) {
-  Row row;
-  row.id = 1;
-  if constexpr (LineRow<Row>) row.row_num = row_num;
-  return Set(row, values);
-}
 
 QStringList Closing() {
   return {u""_s, u""_s, pt::kStatement1, pt::kStatement2, u""_s, pt::kSigners,
@@ -77,7 +60,7 @@ class PagesTest : public ::testing::Test {
 
 // clang-format off
 TEST_F(PagesTest, CommonSummaryOfOneMonth) {
-  InsertRow(db_, With<EmployerRow>(0, {
+  InsertRow(db_, Filled<EmployerRow>(0, {
       {"declaration_type", "01"}, {"declaration_descr", "ΚΑΝΟΝΙΚΗ "},
       {"orgbra_branch_code", " 12 "}, {"orgbra_branch_descr", "ΑΘΗΝΩΝ"}, {"employer_name", QString(50, u'Ω')},
       {"emp_first_name", "ΒΗΤΑΣ"}, {"emp_father_name", "ΓΑΜΑ"}, {"emp_employer_id", "0123456 "},
@@ -104,7 +87,7 @@ TEST_F(PagesTest, ConstructionSummary) {
       {u"1234,5"_s, {}, u"1.234,50"_s, u""_s}, {{}, u" -7"_s, u""_s, u"-7,00"_s}};
   for (const auto& t : totals) {
     db_.Exec("DELETE FROM QOR_CON_EMPLOYERS");
-    InsertRow(db_, With<ConEmployerRow>(0, {
+    InsertRow(db_, Filled<ConEmployerRow>(0, {
         {"declare_type", "03"}, {"ovt_code", "7"}, {"ovt_name", "ΠΕΙΡΑΙΑ"}, {"emp_name", "ΑΛΦΑ"},
         {"emp_address", "ΟΔΟΣ"}, {"emp_num", "1"}, {"emp_zip_code", "18535"}, {"emp_city", "ΠΕΙΡΑΙΑΣ"},
         {"con_descr", QString(51, u'Ε') + u' ' + QString(18, u'Ζ')}, {"ame", "11"}, {"amoe", "22"}, {"afm", "33"},
@@ -264,13 +247,13 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
     FakeDialogs dialogs;
     Database& db = store.Open();
     store.vars.DeclarationId = 1;
-    common ? InsertRow(db, With<EmployerRow>(0, {{"declaration_type", p.type}}))
-           : InsertRow(db, With<ConEmployerRow>(0, {{"declare_type", p.type}}));
+    common ? InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
+           : InsertRow(db, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
-      common ? InsertRow(db, With<EmployeeRow>(
+      common ? InsertRow(db, Filled<EmployeeRow>(
                                  n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
-             : InsertRow(db, With<ConEmployeeRow>(n, {{"insured_id", id}}));
+             : InsertRow(db, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
     }
     const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
@@ -306,12 +289,13 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
 // its number and text once the pointer is back, the document killed.
 TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
   const auto header = [](Database& db, bool tax_number) {
-    InsertRow(db, With<EmployerRow>(0, {{"declaration_type", "01"},
-                                        {"emp_employer_id", "1"},
-                                        {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
+    InsertRow(db,
+              Filled<EmployerRow>(0, {{"declaration_type", "01"},
+                                      {"emp_employer_id", "1"},
+                                      {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
   };
   const auto line = [](Database& db, int n, const char* full_day) {
-    InsertRow(db, With<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
+    InsertRow(db, Filled<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
   };
   const QString description = u"\r\nΠεριγραφή λάθους: "_s;
   // clang-format off
@@ -352,11 +336,12 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
   }
 }
 
-TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
-  InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", "01"},
-                                       {"emp_employer_id", "1"},
-                                       {"taxation_number", "2"}}));
-  InsertRow(db_, With<EmployeeRow>(1, {{"insured_id", "1"}, {"full_day", "0"}, {"all_days", "1"}}));
+TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsIt) {
+  InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", "01"},
+                                         {"emp_employer_id", "1"},
+                                         {"taxation_number", "2"}}));
+  InsertRow(db_,
+            Filled<EmployeeRow>(1, {{"insured_id", "1"}, {"full_day", "0"}, {"all_days", "1"}}));
   PrintDeclaration(store_.vars, dialogs_, Kind::Common);
   ASSERT_EQ(dialogs_.questions.size(), 1u);
   EXPECT_EQ(dialogs_.questions[0].text, pt::kAskAll);
@@ -374,30 +359,25 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYes) {
   EXPECT_EQ(dialogs_.printers[0].calls,
             (QStringList{u"size 10"_s, u"name Courier New Greek"_s, u"print"_s, u"end"_s}));
   EXPECT_TRUE(dialogs_.printers[1].pages[0].contains(pt::kSumTitle));
-}
-
-// A printout the user stops is abandoned at once and nothing is told; the
-// preview offers it under the declaration's name.
-TEST_F(PagesTest, AStoppedPrintoutIsAbandonedWithoutAWord) {
-  InsertRow(db_, With<EmployerRow>(0, {{"declaration_type", "01"},
-                                       {"emp_employer_id", "1"},
-                                       {"taxation_number", "2"}}));
-  for (int n = 1; n <= 5; ++n) {
+  // A printout the user stops is abandoned at once and nothing is told; the
+  // preview offers it under the declaration's name.
+  for (int n = 2; n <= 5; ++n) {
     InsertRow(db_,
-              With<EmployeeRow>(
+              Filled<EmployeeRow>(
                   n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
   }
+  FakeDialogs dialogs;
   store_.vars.PeriodFrom = u"012026"_s;
   store_.vars.PeriodTo = u"032026"_s;
-  dialogs_.answers = {true};
-  dialogs_.stop_at = 2;
-  PrintDeclaration(store_.vars, dialogs_, Kind::Common);
-  EXPECT_EQ(dialogs_.pdf_names, QStringList{u"OVT-common-1-2026-01_2026-03.pdf"_s});
-  EXPECT_EQ(dialogs_.printed, std::vector{false});
-  EXPECT_EQ(dialogs_.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
-  EXPECT_TRUE(dialogs_.messages.empty());
-  EXPECT_EQ(dialogs_.busy_calls, (std::vector{true, false}));
-  const CapturePrinter& printer = dialogs_.printers.at(0);
+  dialogs.answers = {true};
+  dialogs.stop_at = 2;
+  PrintDeclaration(store_.vars, dialogs, Kind::Common);
+  EXPECT_EQ(dialogs.pdf_names, QStringList{u"OVT-common-1-2026-01_2026-03.pdf"_s});
+  EXPECT_EQ(dialogs.printed, std::vector{false});
+  EXPECT_EQ(dialogs.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(dialogs.busy_calls, (std::vector{true, false}));
+  const CapturePrinter& printer = dialogs.printers.at(0);
   EXPECT_EQ(printer.pages.size(), 2u);
   EXPECT_EQ(printer.calls.back(), u"kill"_s);
   EXPECT_EQ(printer.calls.count(u"end"_s), 0);

@@ -9,8 +9,6 @@
 #include "shell/carry_over.h"
 #include "shell/errors.h"
 #include "shell/texts.h"
-#include "store/declarations.h"
-#include "store/rows.h"
 #include "support/fakes.h"
 #include "support/store_rows.h"
 

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include "shell/dir_form.h"
 #include "shell/drives.h"
@@ -23,7 +22,7 @@ QString Shown(const QList<Drive>& drives) {
   return shown.join(u' ');
 }
 
-TEST(DrivesOf, RemovableByLabelThenHomeThenRoot) {
+TEST(Drives, RemovableByLabelThenHomeThenRootAndThePathsDriveIsTheLongestRoot) {
   const QList<Volume> volumes = {{u"/"_s, {}},
                                  {u"/boot/efi"_s, u"EFI"_s},
                                  {u"/run/media/u/X"_s, u"X"_s},
@@ -36,10 +35,7 @@ TEST(DrivesOf, RemovableByLabelThenHomeThenRoot) {
             u"S=/media/u/S /media/u/X2=/media/u/X2 /mnt=/mnt /mnt/a=/mnt/a "
             "/run/media/u/X=/run/media/u/X /home/u=/home/u /=/"_s);
   EXPECT_EQ(Shown(DrivesOf({}, u"/"_s)), u"/=/"_s);
-}
-
-// The drive shown for a path is the one with the longest root holding it.
-TEST(DriveOf, TheLongestRootHoldingThePath) {
+  // The drive shown for a path is the one with the longest root holding it.
   const QList<Drive> drives{{u"/"_s, u"/"_s}, {u"u"_s, u"/home/u"_s}, {u"v"_s, u"/home/v"_s}};
   EXPECT_EQ(DriveOf(drives, u"/home/u/x"_s), 1);
   EXPECT_EQ(DriveOf(drives, u"/home/uv"_s), 0);

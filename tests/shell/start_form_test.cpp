@@ -3,19 +3,12 @@
 // and which declaration OK opens: the stored one of the period, or a new one
 // that may take over the lines of the highest id of the kind.
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include "shell/errors.h"
 #include "shell/start_form.h"
-#include "shell/texts.h"
-#include "store/rows.h"
-#include "store/schema.h"
-#include "store/store_file.h"
-#include "support/fakes.h"
 #include "support/rule_chain.h"
 #include "support/store_rows.h"
 

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 #include <sqlcipher/sqlite3.h>
 
-#include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <functional>

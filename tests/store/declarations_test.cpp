@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/texts.h"
-#include "store/declarations.h"
-#include "store/rows.h"
 #include "support/fakes.h"
 #include "support/store_rows.h"
 

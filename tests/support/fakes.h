@@ -79,14 +79,10 @@ class FakeDialogs : public Dialogs {
     this->busy = busy;
   }
 
-  SearchAnswer AskInsuredPerson() override {
-    ++searches_asked;
-    return Next(searches, SearchAnswer{});
-  }
+  SearchAnswer AskInsuredPerson() override { return Next(searches, SearchAnswer{}); }
 
-  QString AskDirectory(DirPurpose purpose) override {
+  QString AskDirectory(DirPurpose) override {
     ++directories_asked;
-    directory_purposes.push_back(purpose);
     return Next(directories, QString());
   }
 
@@ -139,14 +135,12 @@ class FakeDialogs : public Dialogs {
   std::vector<bool> busy_calls;
   bool busy = false;
   std::deque<SearchAnswer> searches;  // scripted answers of the search dialog; cancel when none
-  int searches_asked = 0;
-  std::deque<QString> directories;  // scripted answers of the directory dialog; cancel when none
+  std::deque<QString> directories;    // scripted answers of the directory dialog; cancel when none
   int directories_asked = 0;
-  std::vector<DirPurpose> directory_purposes;  // what each directory was asked for
-  std::vector<CapturePrinter> printers;        // one for each preview, in order
-  std::vector<bool> printed;                   // what each drawing answered
-  int printer_fails_at = -1;                   // see CapturePrinter::fails_at
-  std::vector<Report> confirmed;               // reports shown with a button to go on
+  std::vector<CapturePrinter> printers;  // one for each preview, in order
+  std::vector<bool> printed;             // what each drawing answered
+  int printer_fails_at = -1;             // see CapturePrinter::fails_at
+  std::vector<Report> confirmed;         // reports shown with a button to go on
   QStringList confirm_captions;
   std::deque<bool> confirms;  // scripted answers of ConfirmReport; go on when none is left
   std::vector<FileQuestion> file_questions;

@@ -4,9 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QStringList>
-#include <memory>
-
 #include "support/fakes.h"
 
 namespace veroxia::testing {

@@ -1,7 +1,6 @@
 #pragma once
 // Sample rows for the store tests and whole-table snapshots to compare.
 
-#include <QString>
 #include <vector>
 
 #include "store/database.h"
@@ -24,6 +23,25 @@ Row Sample(int id, int row_num = 0) {
     value = QStringLiteral("%1 %2.%3").arg(QString::fromLatin1(column)).arg(id).arg(row_num);
   });
   return row;
+}
+
+// The row with the given columns set.
+template <class Row>
+Row Set(Row row, std::initializer_list<std::pair<const char*, Text>> values) {
+  ForEachText(row, [&](const char* column, Text& value) {
+    for (const auto& [name, text] : values)
+      if (std::string_view(name) == column) value = text;
+  });
+  return row;
+}
+
+// Row `row_num` (0: the header) of declaration 1 with only the given columns set.
+template <class Row>
+Row Filled(int row_num, std::initializer_list<std::pair<const char*, Text>> values) {
+  Row row;
+  row.id = 1;
+  if constexpr (LineRow<Row>) row.row_num = row_num;
+  return Set(row, values);
 }
 
 // A line of the given register number.
