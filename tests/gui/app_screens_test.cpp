@@ -1,7 +1,6 @@
 // One main screen at a time: the start screen, the header and employee
-// screens of both kinds, and the end of the program.
-
-#include <QPointer>
+// screens of both kinds, and the end of the program. (Without a store the
+// program's own test sees it end.)
 
 #include "gui/app_screens.h"
 #include "gui/driver.h"
@@ -10,22 +9,9 @@
 #include "header/ovt_form3.h"
 #include "lines/ovt_form2.h"
 #include "lines/ovt_form4.h"
-#include "shell/texts.h"
-#include "support/fakes.h"
 
 namespace veroxia::testing {
 namespace {
-
-TEST(AppScreensTest, WithoutAStoreNothingIsShownAndTheStatusIsOne) {
-  TempStore store(false);
-  FakeDialogs dialogs;
-  AppScreens screens(store.vars, dialogs);
-  screens.ShowStart();
-  EXPECT_EQ(screens.QuitStatus(), 1);
-  EXPECT_EQ(screens.Current(), nullptr);
-  EXPECT_EQ(dialogs.LastMessage(), texts::kStoreMissing);
-  for (const QWidget* window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
-}
 
 // Each kind's screens open with nothing to say and lead from one to the
 // next: from a stored header the employee button opens the employee screen,
@@ -40,7 +26,7 @@ TEST(AppScreensTest, EachKindsScreensLeadFromOneToTheNextUntilQuit) {
   ASSERT_FALSE(first.isNull());
   EXPECT_TRUE(first->isVisible());
   store.vars.DeclarationId = 1;
-  store.vars.PeriodFrom = store.vars.PeriodTo = QStringLiteral("012002");
+  store.vars.PeriodFrom = store.vars.PeriodTo = u"012002"_s;
   WriteHeaderColumns<EmployerRow>(*store.vars.StoreConnection, 1, {}, true);
   WriteHeaderColumns<ConEmployerRow>(*store.vars.StoreConnection, 1, {}, true);
 
@@ -52,15 +38,15 @@ TEST(AppScreensTest, EachKindsScreensLeadFromOneToTheNextUntilQuit) {
       {Kind::Common, OvtForm1::CommonLayout(), OvtForm2::CommonLayout()},
       {Kind::Construction, OvtForm3::ConstructionLayout(), OvtForm4::ConstructionLayout()}};
   for (const auto& [kind, header, lines] : kinds) {
-    const auto shown = [&screens] { return screens.Current()->windowTitle().toStdString(); };
+    const auto shown = [&screens] { return screens.Current()->windowTitle(); };
     screens.ShowHeader(kind);
-    EXPECT_EQ(shown(), header.title.toStdString());
+    EXPECT_EQ(shown(), header.title);
     Click(*screens.Current(), header.lines_button);
-    EXPECT_EQ(shown(), lines.title.toStdString());
-    Click(*screens.Current(), QStringLiteral("BackCmd"));
-    EXPECT_EQ(shown(), header.title.toStdString());
-    Click(*screens.Current(), QStringLiteral("ExitCmd"));
-    EXPECT_NE(screens.Current()->findChild<QWidget*>(QStringLiteral("Command2")), nullptr);
+    EXPECT_EQ(shown(), lines.title);
+    Click(*screens.Current(), u"BackCmd"_s);
+    EXPECT_EQ(shown(), header.title);
+    Click(*screens.Current(), u"ExitCmd"_s);
+    EXPECT_NE(screens.Current()->findChild<QWidget*>(u"Command2"_s), nullptr);
   }
   EXPECT_TRUE(dialogs.messages.empty());
   EXPECT_NE(screens.Current(), first.data());

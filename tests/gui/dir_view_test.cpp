@@ -1,23 +1,12 @@
 // The directory dialog's window: it starts in the program's directory, opens
 // a directory by double-click or Enter, and hands back the one opened.
 
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFileInfo>
-#include <QInputDialog>
-#include <QListView>
-#include <QMouseEvent>
-#include <QThread>
-
-#include "driver.h"
 #include "gui/dir_view.h"
+#include "gui/driver.h"
 #include "shell/texts.h"
-#include "support/fakes.h"
 
 namespace veroxia::testing {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // The list's entry of that name, once the list has read its directory.
 QModelIndex Entry(const QListView& list, const QString& name) {
@@ -43,41 +32,71 @@ void DoubleClick(QListView& list, const QString& name) {
   }
 }
 
-// Home holds the program's directory app/ with out/more/ in it; the drive
-// GONE was taken out after the list was made.
-TEST(DirViewTest, OpensByDoubleClickOrEnterAndHandsBackTheOpenedDirectory) {
-  QTemporaryDir home;
-  const QString app = home.path() + u"/app"_s;
-  ASSERT_TRUE(QDir(app).mkpath(u"out/more"_s));
-  FakeDialogs dialogs;
-  DirForm form(app, dialogs, [&home] {
-    return QList<Drive>{{u"home"_s, home.path()}, {u"GONE"_s, home.path() + u"/gone"_s}};
-  });
-  form.Load();
-  DirView view(form);
-  auto* list = Find<QListView>(view, u"Dir1"_s);
-  ShowActive(view);
-  ExpectNothingCut(view);
-  EXPECT_EQ(Focused(view), u"Dir1"_s);
-  EXPECT_EQ(Find<QLabel>(view, u"Dir1Path"_s)->toolTip(), app);
-  auto* drives = Find<QComboBox>(view, u"Drive1"_s);
-  drives->setCurrentText(u"GONE"_s);
-  EXPECT_EQ(dialogs.LastMessage(), texts::kDirDriveUnreadable + u"GONE'."_s);
-  EXPECT_EQ(drives->currentText(), u"home"_s);
+// Home holds the program's directory app/ with out/ in it; the drive GONE was
+// taken out after the list was made. For either purpose the captions say what
+// the directory is for and fit, the title in a title bar too. Enter in the
+// list or the path box (typed anew after a fault) opens, and presses no
+// button; "Νέος φάκελος" asks for the name in a box of its own and opens the
+// folder made; OK hands back the directory opened, not the one highlighted.
+TEST(DirViewTest, OpensByDoubleClickEnterPathOrNewFolderAndHandsBackTheOpened) {
+  const std::tuple<DirPurpose, QString, QString> purposes[] = {
+      {DirPurpose::kWriteVolumes, u"Δημιουργία αρχείου Ξ.Ρ.Φ"_s, texts::kDirLabel1},
+      {DirPurpose::kCheckVolumes, texts::kDirCheckTitle, texts::kDirCheckLabel1}};
+  for (const auto& [purpose, title, label1] : purposes) {
+    QTemporaryDir home;
+    const QString app = home.path() + u"/app"_s;
+    ASSERT_TRUE(QDir(app).mkpath(u"out"_s));
+    FakeDialogs dialogs;
+    const auto drives = [&home] {
+      return QList<Drive>{{u"home"_s, home.path()}, {u"GONE"_s, home.path() + u"/gone"_s}};
+    };
+    DirForm form(app, dialogs, drives, purpose);
+    form.Load();
+    DirView view(form);
+    auto* list = Find<QListView>(view, u"Dir1"_s);
+    ShowActive(view);
+    ExpectNothingCut(view);
+    EXPECT_EQ(view.windowTitle(), title);
+    EXPECT_EQ(Find<QLabel>(view, u"Label1"_s)->text(), label1);
+    EXPECT_TRUE(ShowsWhole(*Find<QLineEdit>(view, u"PathTxt"_s), texts::kDirPathHint));
+    QFont bold = view.font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    EXPECT_LT(metrics.horizontalAdvance(title) + 8 * metrics.height(), view.width());
+    EXPECT_EQ(Focused(view), u"Dir1"_s);
+    EXPECT_EQ(Find<QLabel>(view, u"Dir1Path"_s)->toolTip(), app);
+    auto* drive = Find<QComboBox>(view, u"Drive1"_s);
+    drive->setCurrentText(u"GONE"_s);
+    EXPECT_EQ(dialogs.LastMessage(), texts::kDirDriveUnreadable + u"GONE'."_s);
+    EXPECT_EQ(drive->currentText(), u"home"_s);
 
-  DoubleClick(*list, u"out"_s);
-  EXPECT_EQ(form.Path(), app + u"/out"_s);
-  list->setCurrentIndex(Entry(*list, u".."_s));
-  Key(*list, Qt::Key_Return);  // opens "..", does not press OK
-  QApplication::processEvents();
-  EXPECT_FALSE(form.Closed());
-  EXPECT_EQ(form.Path(), app);
-  DoubleClick(*list, u"out"_s);
-  list->setCurrentIndex(Entry(*list, u"more"_s));  // highlighted only
-  Click(view, u"Command1"_s);
-  QApplication::processEvents();
-  EXPECT_FALSE(view.isVisible());
-  EXPECT_EQ(form.Answer(), app + u"/out"_s);
+    DoubleClick(*list, u"out"_s);
+    EXPECT_EQ(form.Path(), app + u"/out"_s);
+    list->setCurrentIndex(Entry(*list, u".."_s));
+    Key(*list, Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_EQ(form.Path(), app);
+    for (const QString& typed : {u"x"_s, u"out"_s}) {
+      TypeInto(view, u"PathTxt"_s, typed);
+      Key(*Find<QLineEdit>(view, u"PathTxt"_s), Qt::Key_Enter);
+    }
+    EXPECT_EQ(dialogs.messages.size(), 2u);
+    EXPECT_FALSE(form.Closed());
+    QTimer::singleShot(0, &view, [] {
+      auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+      if (question != nullptr && question->labelText() == texts::kDirNewFolderName) {
+        question->setTextValue(u"made"_s);
+        question->accept();
+      }
+    });
+    Click(view, u"NewDirCmd"_s);
+    EXPECT_EQ(form.Path(), app + u"/out/made"_s);
+    list->setCurrentIndex(Entry(*list, u".."_s));  // highlighted only
+    Click(view, u"Command1"_s);
+    QApplication::processEvents();
+    EXPECT_FALSE(view.isVisible());
+    EXPECT_EQ(form.Answer(), app + u"/out/made"_s);
+  }
 }
 
 TEST(DirViewTest, CancelEscapeAndTheCloseControlAnswerEmpty) {
@@ -93,55 +112,6 @@ TEST(DirViewTest, CancelEscapeAndTheCloseControlAnswerEmpty) {
     QTimer::singleShot(0, &view, [&] { cancel(view); });
     EXPECT_EQ(view.Ask(), QString());
     EXPECT_TRUE(form.Closed());
-  }
-}
-
-// For either purpose the captions say what the directory is for and fit, the
-// title in a title bar too. Enter in the path box goes there, typed anew after
-// a fault, and presses no button; "Νέος φάκελος" asks for the name in a box of
-// its own and opens the folder made.
-TEST(DirViewTest, CaptionsPathBoxAndNewFolder) {
-  const std::tuple<DirPurpose, QString, QString> purposes[] = {
-      {DirPurpose::kWriteVolumes, u"Δημιουργία αρχείου Ξ.Ρ.Φ"_s, texts::kDirLabel1},
-      {DirPurpose::kCheckVolumes, texts::kDirCheckTitle, texts::kDirCheckLabel1}};
-  for (const auto& [purpose, title, label1] : purposes) {
-    QTemporaryDir home;
-    const QString app = home.path() + u"/app"_s;
-    ASSERT_TRUE(QDir(app).mkpath(u"out"_s));
-    FakeDialogs dialogs;
-    DirForm form(
-        app, dialogs,
-        [&home] {
-          return QList<Drive>{{u"home"_s, home.path()}};
-        },
-        purpose);
-    form.Load();
-    DirView view(form);
-    ShowActive(view);
-    ExpectNothingCut(view);
-    EXPECT_EQ(view.windowTitle(), title);
-    EXPECT_EQ(Find<QLabel>(view, u"Label1"_s)->text(), label1);
-    EXPECT_TRUE(ShowsWhole(*Find<QLineEdit>(view, u"PathTxt"_s), texts::kDirPathHint));
-    QFont bold = view.font();
-    bold.setBold(true);
-    const QFontMetrics metrics(bold);
-    EXPECT_LT(metrics.horizontalAdvance(title) + 8 * metrics.height(), view.width());
-
-    for (const QString& typed : {u"x"_s, u"out"_s}) {
-      TypeInto(view, u"PathTxt"_s, typed);
-      Key(*Find<QLineEdit>(view, u"PathTxt"_s), Qt::Key_Enter);
-    }
-    EXPECT_EQ(dialogs.messages.size(), 1u);
-    EXPECT_FALSE(form.Closed());
-    QTimer::singleShot(0, &view, [] {
-      auto* question = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
-      if (question != nullptr && question->labelText() == texts::kDirNewFolderName) {
-        question->setTextValue(u"made"_s);
-        question->accept();
-      }
-    });
-    Click(view, u"NewDirCmd"_s);
-    EXPECT_EQ(form.Path(), app + u"/out/made"_s);
   }
 }
 

@@ -1,23 +1,19 @@
 #pragma once
-// Drives a window the way the user does: clicks, keys, the tab key.
+// Drives a window the way the user does: clicks, keys, the tab key; brings
+// Qt's widgets and printing and the fakes to the window tests.
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
-#include <QWidget>
+#include <QtPrintSupport>  // and the widgets, the GUI and the core under it
 #include <functional>
 
 #include "gui/wrap_button.h"
+#include "support/fakes.h"
+#include "support/printers.h"
 
 namespace veroxia::testing {
+
+using namespace Qt::StringLiterals;
 
 // Shows the window, makes it the active one and lets it lay itself out.
 inline void ShowActive(QWidget& window) {
@@ -39,10 +35,10 @@ inline void Click(const QWidget& window, const QString& name) {
 }
 
 inline void Key(QWidget& target, int key, const QString& text = {}) {
-  QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-  QApplication::sendEvent(&target, &press);
-  QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-  QApplication::sendEvent(&target, &release);
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, Qt::NoModifier, text);
+    QApplication::sendEvent(&target, &event);
+  }
 }
 
 // Clears the field and types the text into it key by key.

@@ -1,20 +1,15 @@
 // The header window of either kind, wired: real widgets, typed into and
 // clicked, and read with long stored values in the view and the edit state.
 
-#include <QRadioButton>
-#include <ostream>
-
+#include "gui/header_view.h"
 #include "gui/app_font.h"
 #include "gui/driver.h"
-#include "gui/header_view.h"
 #include "gui/qt_dialogs.h"
 #include "header/texts.h"
-#include "support/fakes.h"
 
 namespace veroxia::testing {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Typed = std::vector<std::pair<QString, QString>>;
 
 // What differs between the kinds' header windows.
@@ -41,16 +36,20 @@ HeaderKind KindOf(const char* name, Typed valid) {
 
 class HeaderViewTest : public ::testing::TestWithParam<HeaderKind> {
  protected:
-  explicit HeaderViewTest(Dialogs* real = nullptr)
-      : form(GetParam().form(store.vars, real != nullptr ? *real : dialogs, screens)) {
+  HeaderViewTest() {
     store.Open();
     store.vars.DeclarationId = 1;
     store.vars.PeriodFrom = u"012002"_s;
     store.vars.PeriodTo = u"032002"_s;
   }
 
-  void Open() {
+  // The form, speaking through `with`, loaded.
+  void Load(Dialogs& with) {
+    form = GetParam().form(store.vars, with, screens);
     form->Load();
+  }
+
+  void Open() {
     view = GetParam().view(*form);
     ShowActive(*view);
   }
@@ -62,6 +61,7 @@ class HeaderViewTest : public ::testing::TestWithParam<HeaderKind> {
 
   TempStore store;
   FakeDialogs dialogs;
+  QtDialogs boxes{false};  // the real message boxes
   FakeScreens screens;
   std::unique_ptr<HeaderForm> form;
   std::unique_ptr<HeaderView> view;
@@ -72,6 +72,7 @@ class HeaderViewTest : public ::testing::TestWithParam<HeaderKind> {
 TEST_P(HeaderViewTest, EveryControlHasItsWidgetAndEachOptionItsOwnCaption) {
   EXPECT_NEAR(ContrastRatio(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
   UseReadableDisabledText();
+  Load(dialogs);
   Open();
   const QLineEdit* locked = Get(form->Layout().from_month_field);
   ASSERT_FALSE(locked->isEnabled());
@@ -112,7 +113,7 @@ TEST_P(HeaderViewTest, EveryControlHasItsWidgetAndEachOptionItsOwnCaption) {
 // A header whose texts fill their fields, the branch code aside, stored as
 // the screen stores it.
 TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks) {
-  form->Load();
+  Load(dialogs);
   const QString long_text = QString(80, u'Ε');
   for (const HeaderField& field : form->Layout().fields) {
     if (field.visible && field.insert_as != StoreAs::Date) {
@@ -155,13 +156,8 @@ TEST_P(HeaderViewTest, LongStoredValuesAreReadableInBothStatesAndTheCloseBoxAsks
 
 // With the real message boxes: typed texts are stored, and the box that says
 // so stands over the screen already locked, as the logic left it.
-class HeaderBoxTest : public HeaderViewTest {
- protected:
-  HeaderBoxTest() : HeaderViewTest(&boxes) {}
-  QtDialogs boxes{false};
-};
-
-TEST_P(HeaderBoxTest, TypingAndSavingStoresTheHeaderUnderTheLockedScreen) {
+TEST_P(HeaderViewTest, TypingAndSavingStoresTheHeaderUnderTheLockedScreen) {
+  Load(boxes);
   Open();
   for (const auto& [name, text] : GetParam().valid) {
     TypeInto(*view, name, text);
@@ -197,14 +193,11 @@ const Typed kConstructionValid = {
     {u"Text12"_s, u"094014201"_s}, {u"Text13"_s, u"Οδός"_s},       {u"Text15"_s, u"12345"_s},
     {u"Text16"_s, u"Πόλη"_s},      {u"FlDateTxt"_s, u"05032002"_s}};
 
-const auto kKinds =
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, HeaderViewTest,
     ::testing::Values(KindOf<OvtForm1, OvtForm1View>("Common", kCommonValid),
-                      KindOf<OvtForm3, OvtForm3View>("Construction", kConstructionValid));
-const auto kKindName = [](const ::testing::TestParamInfo<HeaderKind>& info) {
-  return std::string(info.param.name);
-};
-INSTANTIATE_TEST_SUITE_P(Kinds, HeaderViewTest, kKinds, kKindName);
-INSTANTIATE_TEST_SUITE_P(Kinds, HeaderBoxTest, kKinds, kKindName);
+                      KindOf<OvtForm3, OvtForm3View>("Construction", kConstructionValid)),
+    [](const ::testing::TestParamInfo<HeaderKind>& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace veroxia::testing

@@ -1,32 +1,18 @@
 // The employee window of either kind and the search dialog: real widgets,
 // typed into and clicked.
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTimer>
-#include <functional>
-#include <ostream>
-
+#include "gui/lines_view.h"
 #include "gui/driver.h"
 #include "gui/form_binder.h"
-#include "gui/lines_view.h"
 #include "gui/search_view.h"
 #include "lines/import_texts.h"
 #include "lines/ovt_form2.h"
 #include "lines/ovt_form4.h"
 #include "lines/texts.h"
 #include "shell/file_names.h"
-#include "support/fakes.h"
 
 namespace veroxia::testing {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // What differs between the kinds' employee windows.
 struct LinesKind {

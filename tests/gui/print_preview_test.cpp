@@ -4,29 +4,13 @@
 
 #include "gui/print_preview.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QFile>
-#include <QLabel>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QScreen>
-#include <QSpinBox>
-#include <QTimer>
-#include <QToolBar>
-#include <QToolButton>
-
 #include "gui/driver.h"
 #include "gui/paper/pdf_printer.h"
 #include "printing/texts.h"
-#include "support/fakes.h"
-#include "support/printers.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
-using namespace Qt::StringLiterals;
 namespace pt = printing_texts;
 
 // A printout of three pages, each told to the progress; one that fails gives
@@ -38,11 +22,7 @@ PrintJob Printout(bool fails, int& runs) {
             for (int page = 1; page <= 3; ++page) {
               if (page > 1) printer.NewPage();
               printer.Print(u"ΣΕΛΙΔΑ %1\r\nΓΡΑΜΜΗ"_s.arg(page));
-              if (fails && page == 2) {
-                printer.KillDoc();
-                return false;
-              }
-              if (!progress.Advance(page, 3)) {
+              if ((fails && page == 2) || !progress.Advance(page, 3)) {
                 printer.KillDoc();
                 return false;
               }
@@ -76,7 +56,7 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
   } cases[] = {{false, 0, true}, {true, 0, false}, {false, 2, false}};
   for (const auto& c : cases) {
     SCOPED_TRACE(::testing::Message() << c.fails << c.stop_at);
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     dialogs.stop_at = c.stop_at;
     int runs = 0;
     QString count;
@@ -84,7 +64,7 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
     QObject::connect(&poll, &QTimer::timeout, [&] {
       QWidget* window = QApplication::activeModalWidget();
       if (window == nullptr || !window->isVisible()) return;
-      count = testing::Find<QLabel>(*window, "PageCount")->text().trimmed();
+      count = Find<QLabel>(*window, "PageCount")->text().trimmed();
       window->close();
     });
     poll.start(5);
@@ -99,23 +79,23 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
 // 800×600, smaller than the laptops' 1366×768 and 1024×768: the window, its
 // toolbar and a page's whole width at a readable size are within it.
 TEST(PrintPreviewTest, PagesTurnAndTheWindowFitsASmallScreen) {
-  testing::FakeDialogs dialogs;
+  FakeDialogs dialogs;
   Composed printout;
   PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
   window.show();
-  auto* first = testing::Find<QToolButton>(window, "FirstPageCmd");
-  auto* next = testing::Find<QToolButton>(window, "NextPageCmd");
-  auto* box = testing::Find<QSpinBox>(window, "PageBox");
+  auto* first = Find<QToolButton>(window, "FirstPageCmd");
+  auto* next = Find<QToolButton>(window, "NextPageCmd");
+  auto* box = Find<QSpinBox>(window, "PageBox");
   EXPECT_EQ(window.Page(), 0);
   EXPECT_FALSE(first->isEnabled());
   next->click();
   EXPECT_EQ(window.Page(), 1);
   EXPECT_EQ(box->value(), 2);
-  testing::Find<QToolButton>(window, "LastPageCmd")->click();
+  Find<QToolButton>(window, "LastPageCmd")->click();
   EXPECT_EQ(window.Page(), 2);
   EXPECT_FALSE(next->isEnabled());
   EXPECT_TRUE(first->isEnabled());
-  testing::Find<QToolButton>(window, "PreviousPageCmd")->click();
+  Find<QToolButton>(window, "PreviousPageCmd")->click();
   EXPECT_EQ(window.Page(), 1);
   box->setValue(1);
   EXPECT_EQ(window.Page(), 0);
@@ -123,9 +103,9 @@ TEST(PrintPreviewTest, PagesTurnAndTheWindowFitsASmallScreen) {
   EXPECT_EQ(window.Page(), 2);
   const QRect area = window.screen()->availableGeometry();
   EXPECT_TRUE(area.contains(window.frameGeometry())) << area.height();
-  EXPECT_LE(testing::Find<QToolBar>(window, "PreviewToolbar")->sizeHint().width(), window.width());
-  EXPECT_LE(testing::Find<QWidget>(window, "PreviewSheets")->width(),
-            testing::Find<QWidget>(window, "PreviewScroll")->width());
+  EXPECT_LE(Find<QToolBar>(window, "PreviewToolbar")->sizeHint().width(), window.width());
+  EXPECT_LE(Find<QWidget>(window, "PreviewSheets")->width(),
+            Find<QWidget>(window, "PreviewScroll")->width());
   EXPECT_GE(window.Zoom(), 0.85);  // 10 points stay at least 11 pixels
 }
 
@@ -133,7 +113,7 @@ TEST(PrintPreviewTest, SavesAPdfUnderTheDeclarationsName) {
   for (const int stop_at : {0, 2}) {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"out.pdf"_s);
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     dialogs.files = {path};
     Composed printout;
     PrintPreviewWindow window(printout.pages, dialogs, printout.job, nullptr);
@@ -172,4 +152,4 @@ TEST(PrintPreviewTest, PdfPageIsThatOfAPrinterWithoutPrinter) {
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

@@ -1,19 +1,8 @@
 // What the message boxes show, and the hourglass; the report window, every
 // column and note readable, the faults marked.
 
-#include <QCoreApplication>
-#include <QCursor>
-#include <QDialog>
-#include <QElapsedTimer>
-#include <QListWidget>
-#include <QProgressDialog>
-#include <QScrollBar>
-#include <QTableWidget>
-#include <QThread>
-#include <memory>
-
-#include "gui/driver.h"
 #include "gui/qt_dialogs.h"
+#include "gui/driver.h"
 #include "gui/report_window.h"
 #include "header/texts.h"
 #include "shell/errors.h"
@@ -21,8 +10,6 @@
 
 namespace veroxia::testing {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 TEST(ReportWindowTest, ShowsEveryColumnAndNoteAndMarksTheRowsThatDoNotHold) {
   Report report;

@@ -1,30 +1,10 @@
 // Qt's own print dialogs speak Greek once the program's catalogue is in.
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QPageSetupDialog>
-#include <QPrintDialog>
-#include <QPrintPreviewDialog>
-#include <QPrinter>
-#include <QPrinterInfo>
-#include <QRegularExpression>
-#include <QTabWidget>
-#include <QTranslator>
-#include <memory>
-#include <string>
-
 #include "gui/qt_greek.h"
+#include "gui/driver.h"
 
 namespace veroxia::testing {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // Every text the dialog can show: titles, labels, buttons, tabs, list items,
 // unit suffixes, tooltips and the actions of its tool bar.

@@ -1,12 +1,9 @@
 // The start screen's window: clicks, keys and the tab key reach the logic
 // and come back, and nothing is cut.
 
-#include <QFile>
-
-#include "driver.h"
 #include "gui/start_view.h"
+#include "gui/driver.h"
 #include "shell/texts.h"
-#include "support/fakes.h"
 
 namespace veroxia::testing {
 namespace {

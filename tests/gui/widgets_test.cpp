@@ -2,18 +2,12 @@
 // their maximum length and shown from their first character, and button
 // captions kept off the bevel.
 
-#include <QBoxLayout>
-#include <QHelpEvent>
-#include <QToolTip>
-
-#include "driver.h"
+#include "gui/driver.h"
 #include "gui/fields.h"
 #include "gui/form_binder.h"
 
 namespace veroxia::testing {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 class TinyForm : public Form {
  public:

@@ -4,28 +4,16 @@
 
 #include "gui/paper/pdf_printer.h"
 
-#include <gtest/gtest.h>
-
-#include <QBuffer>
-#include <QDir>
-#include <QFontInfo>
-#include <QFontMetricsF>
-#include <QPdfWriter>
-#include <QRawFont>
-#include <QStringDecoder>
-#include <QTemporaryDir>
 #include <cerrno>
-#include <tuple>
 
 #include "filing/texts.h"
+#include "gui/driver.h"
 #include "shell/texts.h"
 #include "support/pdf_text.h"
-#include "support/printers.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
-using namespace Qt::StringLiterals;
 using Pages = QList<QStringList>;
 
 // Prints the pages as the printouts do: size, name, the first page, a new
@@ -47,12 +35,12 @@ Pages RoundTrip(const Pages& pages) {
   PdfPrinter printer(dir.filePath(u"out.pdf"_s));
   PrintPages(printer, pages);
   printer.EndDoc();
-  return testing::PdfPagesByPosition(dir.filePath(u"out.pdf"_s));
+  return PdfPagesByPosition(dir.filePath(u"out.pdf"_s));
 }
 
 class PdfTextTest : public ::testing::Test {
   void SetUp() override {
-    if (!testing::HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    if (!HavePdfToText()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
   }
 };
 
@@ -142,4 +130,4 @@ TEST(PdfPrinterTest, UnwritablePathFailsWithTheSystemError) {
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing
