@@ -52,7 +52,7 @@ class LinesViewTest : public ::testing::TestWithParam<LinesKind> {
   std::unique_ptr<LinesView> view;
 };
 
-TEST_P(LinesViewTest, WidgetsUncutTypedTextsReachTheChecksAndTheCloseBoxAsks) {
+TEST_P(LinesViewTest, TypedTextsReachTheChecksClearAndGoToALine) {
   const LinesKind& kind = GetParam();
   for (const QString& name : form->Names()) {
     EXPECT_NE(view->findChild<QWidget*>(name), nullptr) << name.toStdString();
@@ -68,7 +68,8 @@ TEST_P(LinesViewTest, WidgetsUncutTypedTextsReachTheChecksAndTheCloseBoxAsks) {
   Click(*view, u"ExportCmd"_s);
   ASSERT_EQ(dialogs.file_questions.size(), 2u);
   EXPECT_EQ(dialogs.file_questions[0].title, import_texts::kImportTitle);
-  EXPECT_TRUE(dialogs.file_questions[1].save);
+  EXPECT_EQ(dialogs.file_questions[1].suggested,
+            DeclarationFileName(form->Layout().kind, 1, u"012002"_s, u"012002"_s, u"csv"_s));
   // Typed texts reach the logic (the date box as shown, the choice box by its
   // list); OK runs the checks, whose fault takes the focus; the close box asks.
   TypeInto(*view, kind.surname, u"Papas"_s);
@@ -81,24 +82,15 @@ TEST_P(LinesViewTest, WidgetsUncutTypedTextsReachTheChecksAndTheCloseBoxAsks) {
   Click(*view, u"OkCmd"_s);
   EXPECT_EQ(dialogs.messages.size(), 1u);
   EXPECT_EQ(Focused(*view), kind.first_fault);
-
   view->close();  // answered No: the window stays
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_TRUE(view->isVisible());
-}
 
-// Clear puts the focus on the first box, where the user sees it; the export
-// offers the declaration's file name; in browse mode the number of a line
-// and Enter show that line and where it stands.
-TEST_P(LinesViewTest, ClearFocusesTheFirstBoxAndEnterGoesToALine) {
-  TypeInto(*view, GetParam().surname, u"Papas"_s);
+  // Clear puts the focus on the first box, where the user sees it; in browse
+  // mode the number of a line and Enter show that line and where it stands.
   Click(*view, u"ClearCmd"_s);
   EXPECT_EQ(Focused(*view), form->FirstField());
-  EXPECT_TRUE(Find<QLineEdit>(*view, GetParam().surname)->text().isEmpty());
-  Click(*view, u"ExportCmd"_s);
-  EXPECT_EQ(dialogs.file_questions.back().suggested,
-            DeclarationFileName(form->Layout().kind, 1, u"012002"_s, u"012002"_s, u"csv"_s));
-
+  EXPECT_TRUE(Find<QLineEdit>(*view, kind.surname)->text().isEmpty());
   store.vars.StoreConnection->Exec(
       form->Layout().kind == Kind::Common
           ? "INSERT INTO QOR_EMPLOYEES (id, row_num) VALUES (1, 1), (1, 2)"

@@ -109,7 +109,9 @@ TEST(PrintPreviewTest, PagesTurnAndTheWindowFitsASmallScreen) {
   EXPECT_GE(window.Zoom(), 0.85);  // 10 points stay at least 11 pixels
 }
 
-TEST(PrintPreviewTest, SavesAPdfUnderTheDeclarationsName) {
+// To a PDF file from the preview's own button, or from the print dialog's
+// "print to file": the file is there only when the printout is complete.
+TEST(PrintPreviewTest, SavesAPdfUnderTheDeclarationsNameOnlyWhenComplete) {
   for (const int stop_at : {0, 2}) {
     QTemporaryDir dir;
     const QString path = dir.filePath(u"out.pdf"_s);
@@ -125,21 +127,14 @@ TEST(PrintPreviewTest, SavesAPdfUnderTheDeclarationsName) {
     EXPECT_EQ(dialogs.progress_texts, QStringList{pt::kSavingPdf});
     EXPECT_EQ(QFile::exists(path), stop_at == 0);
     EXPECT_TRUE(dialogs.messages.empty());
-  }
-}
 
-// The printer as the print dialog's "print to file" leaves it.
-TEST(PrintPreviewTest, PrintsToAFileOnlyWhenThePrintoutIsComplete) {
-  for (const bool fails : {false, true}) {
-    QTemporaryDir dir;
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(dir.filePath(u"out.pdf"_s));
-    int runs = 0;
+    printer.setOutputFileName(dir.filePath(u"printed.pdf"_s));
     GoOn go_on;
-    const PrintJob job = Printout(fails, runs);
-    EXPECT_EQ(DrawOn(printer, [&](Printer& p) { return job.draw(p, go_on); }), !fails);
-    EXPECT_EQ(QFile::exists(printer.outputFileName()), !fails);
+    const PrintJob job = Printout(stop_at != 0, printout.runs);
+    EXPECT_EQ(DrawOn(printer, [&](Printer& p) { return job.draw(p, go_on); }), stop_at == 0);
+    EXPECT_EQ(QFile::exists(printer.outputFileName()), stop_at == 0);
   }
 }
 

@@ -64,12 +64,18 @@ TEST_F(BinderTest, ABoxIsAsWideAsItsMaximumLengthNeeds) {
   EXPECT_EQ(capped->maximumWidth(), WidthForCharacters(*capped, 2));
 }
 
-TEST_F(BinderTest, TextsFromTheLogicAreShownFromTheirFirstCharacter) {
+// Texts from the logic are shown from their first character, in a choice box
+// too; a locked box too narrow for its text shows all of it as its tip.
+TEST_F(BinderTest, TextsFromTheLogicAreShownFromTheirFirstCharacterOrAsATip) {
   ShowAtWidth(300);
   const QString long_text(80, u'Ω');
   QLineEdit& street = *Box(u"Street"_s);
   form.At(u"Street"_s).text = long_text;  // loaded
   binder->Mirror();
+  EXPECT_EQ(street.cursorPosition(), 0);
+  form.Select(u"Street"_s, 80);  // the focus arrives selecting the whole text
+  binder->Mirror();
+  EXPECT_EQ(street.selectedText(), long_text);
   EXPECT_EQ(street.cursorPosition(), 0);
 
   street.setFocus();
@@ -77,26 +83,12 @@ TEST_F(BinderTest, TextsFromTheLogicAreShownFromTheirFirstCharacter) {
   form.At(u"Street"_s).enabled = false;
   binder->Mirror();
   EXPECT_EQ(street.cursorPosition(), 0);
-
-  form.At(u"Street"_s).enabled = true;
-  form.Select(u"Street"_s, 80);  // the focus arrives selecting the whole text
-  binder->Mirror();
-  EXPECT_EQ(street.selectedText(), long_text);
-  EXPECT_EQ(street.cursorPosition(), 0);
-}
-
-// A locked box too narrow for its text shows all of it as its tip; a choice
-// box shows a text from the logic from its start.
-TEST_F(BinderTest, ALockedBoxShowsALongTextWholeAsItsTip) {
-  ShowAtWidth(300);
-  const QString long_text(80, u'Ω');
-  form.At(u"Street"_s).enabled = false;
   for (const QString& text : {u"ΑΡΧΗ"_s, long_text}) {
     form.At(u"Street"_s).text = text;
     binder->Mirror();
     QToolTip::hideText();
-    QHelpEvent rest(QEvent::ToolTip, {5, 5}, Box(u"Street"_s)->mapToGlobal(QPoint(5, 5)));
-    QApplication::sendEvent(Box(u"Street"_s), &rest);
+    QHelpEvent rest(QEvent::ToolTip, {5, 5}, street.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&street, &rest);
     EXPECT_EQ(QToolTip::text(), text == long_text ? text : QString());
   }
   auto* combo = new QComboBox(&window);  // owned by the window
