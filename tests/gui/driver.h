@@ -6,6 +6,7 @@
 
 #include <QtPrintSupport>  // and the widgets, the GUI and the core under it
 #include <functional>
+#include <type_traits>
 
 #include "gui/wrap_button.h"
 #include "support/fakes.h"
@@ -85,16 +86,17 @@ inline bool ShowsWhole(QLineEdit& box, const QString& text) {
   return whole;
 }
 
-// Runs `open`; the first message box that comes up is handed to `look` while
-// it is open, then answered with the Return key (its default button). False
-// when no box came up.
-inline bool AnswerNextBox(const std::function<void()>& open,
-                          const std::function<void(QMessageBox&)>& look) {
+// Runs `open`; the first modal window of type W (a message box unless told)
+// that comes up is handed to `look` while it is open, then answered with the
+// Return key (its default button). False when none came up.
+template <class W = QMessageBox>
+bool AnswerNextBox(const std::function<void()>& open,
+                   const std::type_identity_t<std::function<void(W&)>>& look) {
   bool seen = false;
   QTimer poll;
   poll.setInterval(5);
   QObject::connect(&poll, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    auto* box = qobject_cast<W*>(QApplication::activeModalWidget());
     if (box == nullptr || !box->isVisible()) return;
     poll.stop();
     seen = true;

@@ -60,15 +60,13 @@ TEST(PrintPreviewTest, ShownOnlyForAPrintoutComposedWhole) {
     dialogs.stop_at = c.stop_at;
     int runs = 0;
     QString count;
-    QTimer poll;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-      QWidget* window = QApplication::activeModalWidget();
-      if (window == nullptr || !window->isVisible()) return;
-      count = Find<QLabel>(*window, "PageCount")->text().trimmed();
-      window->close();
-    });
-    poll.start(5);
-    ShowPrintPreview(nullptr, dialogs, Printout(c.fails, runs));
+    EXPECT_EQ(
+        AnswerNextBox<QDialog>([&] { ShowPrintPreview(nullptr, dialogs, Printout(c.fails, runs)); },
+                               [&](QDialog& window) {
+                                 count = Find<QLabel>(window, "PageCount")->text().trimmed();
+                                 window.close();
+                               }),
+        c.shown);
     EXPECT_EQ(runs, 1);
     EXPECT_EQ(dialogs.progress_texts, QStringList{pt::kComposing});
     EXPECT_EQ(count, c.shown ? pt::kOfPages.arg(3) : QString());
