@@ -64,15 +64,10 @@ class OvtForm2Test : public ScreenTest<OvtForm2> {
 
   // (row_num, insured_id, surname) of the declaration's lines by number.
   std::vector<std::tuple<int, QString, QString>> Stored() {
-    Statement& select = db_.Prepare(
-        "SELECT row_num, insured_id, surname FROM QOR_EMPLOYEES WHERE id = ? ORDER BY row_num, "
-        "rowid");
-    select.Bind(1, kId);
     std::vector<std::tuple<int, QString, QString>> lines;
-    while (select.Next()) {
-      lines.emplace_back(select.Int(0), select.Value(1).value_or(u"<null>"_s),
-                         select.Value(2).value_or(u"<null>"_s));
-    }
+    for (const auto& row : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num, rowid", kId))
+      lines.emplace_back(row.row_num, row.insured_id.value_or(u"<null>"_s),
+                         row.surname.value_or(u"<null>"_s));
     return lines;
   }
 
@@ -81,15 +76,11 @@ class OvtForm2Test : public ScreenTest<OvtForm2> {
   QString Mode() const {
     const OvtForm2& form = *form_;
     const bool entry = form.At(u"OkCmd"_s).visible;
-    for (const char* name : {"OkCmd", "ClearCmd", "CancelCmd"}) {
-      EXPECT_EQ(form.At(QString::fromLatin1(name)).visible, entry) << name;
-    }
-    for (const char* name : {"NewCmd", "UpDateCmd"}) {
-      EXPECT_EQ(form.At(QString::fromLatin1(name)).visible, !entry) << name;
-    }
-    for (const char* name : {"FirstCmd", "PrevCmd", "Nextcmd", "LastCmd", "SeekCmd", "DeleteCmd"}) {
+    const QStringList entry_only{u"OkCmd"_s, u"ClearCmd"_s, u"CancelCmd"_s};
+    for (const QString& name : entry_only + QStringList{u"NewCmd"_s, u"UpDateCmd"_s})
+      EXPECT_EQ(form.At(name).visible, entry == entry_only.contains(name)) << name.toStdString();
+    for (const char* name : {"FirstCmd", "PrevCmd", "Nextcmd", "LastCmd", "SeekCmd", "DeleteCmd"})
       EXPECT_EQ(form.At(QString::fromLatin1(name)).enabled, !entry) << name;
-    }
     for (const LineField& field : form.Layout().fields) {
       EXPECT_EQ(form.At(field.name).enabled, entry) << field.name.toStdString();
     }
