@@ -30,17 +30,13 @@ using namespace testing;
 TEST_F(OvtForm1Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   // clang-format off
   const std::vector<RuleStep> rules{
-      {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s},
-      {"Text3", u"   "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
-      {"Text4", u""_s, Fixed(kText4Blank), true, u"Ηλίας Α.Ε."_s},
-      {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
+      {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s}, {"Text3", u"   "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
+      {"Text4", u""_s, Fixed(kText4Blank), true, u"Ηλίας Α.Ε."_s}, {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
       {"FatherNmTxt", u"Γ1ώργος"_s, NoDigits(kNameFatherNm), true, u"Γιώργος"_s},
       {"Text5", u"123456789"_s, Integer(kNameAme, 10, true), true, u"1234567890"_s},
       {"Text6", u"12345678"_s, Integer(kNameAfm, 9, true), true, u"123456789"_s},
-      {"Text7", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s},
-      {"Text9", u"1234"_s, Integer(kNameTk, 5, true), false, u"10434"_s},
-      {"Text10", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s},
-      {"Text14_1", u"1,5"_s, Integer(kNameDays, 8, false), true, u"12345678"_s},
+      {"Text7", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s}, {"Text9", u"1234"_s, Integer(kNameTk, 5, true), false, u"10434"_s},
+      {"Text10", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s}, {"Text14_1", u"1,5"_s, Integer(kNameDays, 8, false), true, u"12345678"_s},
       {"Text15_1", u"1.000"_s, Decimal(kNameSalaries, 10), true, u"1234567890,99"_s},
       {"Text16_1", u"1,234"_s, Decimal(kNameContributions, 10), true, u"0"_s},
       {"Text17_1", u""_s, Integer(kNameTotalDays, 8, false), true, u"0"_s},
@@ -48,8 +44,7 @@ TEST_F(OvtForm1Test, RulesReportInOrderWithTheirMessagesAndFocus) {
       {"Text15_2", u"12345678901"_s, Decimal(kNameSalaries, 10), true, u"0"_s},
       {"Text16_2", u"-5"_s, Decimal(kNameContributions, 10), true, u"0"_s},
       {"Text17_2", u"1E3"_s, Decimal(kNameTotalSalaries, 10), true, u"0"_s},
-      {"Text14_3", u"5-"_s, Integer(kNameDays, 8, false), true, u"0"_s},
-      {"Text15_3", u""_s, Decimal(kNameSalaries, 10), true, u"0"_s},
+      {"Text14_3", u"5-"_s, Integer(kNameDays, 8, false), true, u"0"_s}, {"Text15_3", u""_s, Decimal(kNameSalaries, 10), true, u"0"_s},
       {"Text16_3", u"abc"_s, Decimal(kNameContributions, 10), true, u"0"_s},
       {"Text17_3", u"12345678901"_s, Decimal(kNameTotalContributions, 10), true, u"0"_s},
       {"FlDateTxt", u"32/01/2002"_s, Date(kNameFlDate), true, u"12/05/20__"_s},
@@ -108,34 +103,23 @@ class OvtForm1States : public OvtForm1Test, public ::testing::WithParamInterface
  protected:
   // Before "open" the steps prepare the store and the variables; after it
   // they type and press buttons.
+  // clang-format off
   const std::map<QString, std::function<void()>> steps_{
-      {u"row"_s, [this] { Store(StoredRow()); }},
+      {u"row"_s, [this] { Store(StoredRow()); }}, {u"carry"_s, [this] { vars_.CarryOver = true; }},
       {u"previous"_s, [this] { Store(StoredRow(vars_.PreviousDeclarationId)); }},
-      {u"carry"_s, [this] { vars_.CarryOver = true; }},
       {u"drop"_s, [this] { db_.Exec("DROP TABLE QOR_EMPLOYERS"); }},
       {u"vanish"_s, [this] { db_.Exec("DELETE FROM QOR_EMPLOYERS"); }},
-      {u"open"_s, [this] { Open(); }},
-      {u"valid"_s, [this] { TypeValidHeader(); }},
-      {u"type02"_s, [this] { form_->Option1_Click(1); }},
-      {u"blank"_s, [this] { form_->Type(u"Text3"_s, {}); }},
-      {u"nocity"_s, [this] { form_->Type(u"Text10"_s, {}); }},
-      {u"badtotal"_s, [this] { form_->Type(u"Text17_3"_s, u"x"_s); }},
-      {u"save"_s, [this] { form_->SaveCmd_Click(); }},
-      {u"update"_s, [this] { form_->UpDateCmd_Click(); }},
-      {u"cancel"_s, [this] { form_->CancelCmd_Click(); }},
-      {u"print"_s, [this] { form_->PrintCmd_Click(); }},
-      {u"printsum"_s, [this] { form_->PrintSumCmd_Click(); }},
-      {u"file"_s, [this] { form_->CreateFile_Click(); }},
-      {u"totals"_s, [this] { form_->TotalsCmd_Click(); }},
-      {u"volumes"_s,
-       [this] {
-         dialogs_.directories.push_back(medium_.path());
-         form_->VolumesCmd_Click();
-       }},
-      {u"nomedium"_s, [this] { form_->VolumesCmd_Click(); }},
-      {u"exit"_s, [this] { form_->ExitCmd_Click(); }},
-      {u"employees"_s, [this] { form_->QorInsert_Click(); }},
+      {u"open"_s, [this] { Open(); }}, {u"valid"_s, [this] { TypeValidHeader(); }},
+      {u"type02"_s, [this] { form_->Option1_Click(1); }}, {u"blank"_s, [this] { form_->Type(u"Text3"_s, {}); }},
+      {u"nocity"_s, [this] { form_->Type(u"Text10"_s, {}); }}, {u"badtotal"_s, [this] { form_->Type(u"Text17_3"_s, u"x"_s); }},
+      {u"save"_s, [this] { form_->SaveCmd_Click(); }}, {u"update"_s, [this] { form_->UpDateCmd_Click(); }},
+      {u"cancel"_s, [this] { form_->CancelCmd_Click(); }}, {u"print"_s, [this] { form_->PrintCmd_Click(); }},
+      {u"printsum"_s, [this] { form_->PrintSumCmd_Click(); }}, {u"file"_s, [this] { form_->CreateFile_Click(); }},
+      {u"totals"_s, [this] { form_->TotalsCmd_Click(); }}, {u"nomedium"_s, [this] { form_->VolumesCmd_Click(); }},
+      {u"volumes"_s, [this] { dialogs_.directories.push_back(medium_.path()); form_->VolumesCmd_Click(); }},
+      {u"exit"_s, [this] { form_->ExitCmd_Click(); }}, {u"employees"_s, [this] { form_->QorInsert_Click(); }},
   };
+  // clang-format on
   QTemporaryDir medium_;  // holds no volume
 };
 
@@ -452,22 +436,16 @@ class OvtForm3Test : public HeaderTest<OvtForm3> {
 TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   // clang-format off
   const std::vector<RuleStep> rules{
-      {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s},
-      {"Text3", u" "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
-      {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s},
-      {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
-      {"FatherNmTxt", u"Γ1"_s, NoDigits(kNameFatherNm), true, u"Γιώργος"_s},
-      {"Text5", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s},
-      {"Text7", u"1043"_s, Integer(kNameTk, 5, true), false, u"10434"_s},
-      {"Text8", u""_s, Fixed(kEmpCityBlank), false, u"Αθήνα"_s},
+      {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s}, {"Text3", u" "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
+      {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s}, {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
+      {"FatherNmTxt", u"Γ1"_s, NoDigits(kNameFatherNm), true, u"Γιώργος"_s}, {"Text5", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s},
+      {"Text7", u"1043"_s, Integer(kNameTk, 5, true), false, u"10434"_s}, {"Text8", u""_s, Fixed(kEmpCityBlank), false, u"Αθήνα"_s},
       {"Text9", u"  "_s, Fixed(kConDescrBlank), false, u"Πολυκατοικία"_s},
       {"Text10", u"123"_s, Integer(kNameAme, 10, true), true, u"1234567890"_s},
       {"Text11", u"12345"_s, Integer(kNameAmoe, 10, true), true, u"0987654321"_s},
       {"Text12", u"12345678"_s, Integer(kNameAfm, 9, true), true, u"094014201"_s},
-      {"Text13", u""_s, Fixed(kStreetBlank), false, u"Σόλωνος"_s},
-      {"Text15", u"abcde"_s, Integer(kNameTk, 5, true), false, u"10672"_s},
-      {"Text16", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s},
-      {"Text18", u"1.000"_s, Decimal(kNameSalaries, 10), true, u"1000,5"_s},
+      {"Text13", u""_s, Fixed(kStreetBlank), false, u"Σόλωνος"_s}, {"Text15", u"abcde"_s, Integer(kNameTk, 5, true), false, u"10672"_s},
+      {"Text16", u""_s, Fixed(kCityBlank), false, u"Αθήνα"_s}, {"Text18", u"1.000"_s, Decimal(kNameSalaries, 10), true, u"1000,5"_s},
       {"Text19", u"1,5"_s, Integer(kNameWorkDays, 8, false), true, u"25"_s},
       {"Text20", u"x"_s, Decimal(kNameConContributions, 10), true, u"0"_s},
       {"FlDateTxt", u"32/01/2003"_s, Date(kNameFlDate), true, kEmptyDateBox},
@@ -497,26 +475,17 @@ TEST_F(OvtForm3Test, FirstSaveAndCorrectionStoreEachColumnTheirWay) {
   };
   // clang-format off
   const Column columns[] = {
-      {"Text2", "ovt_code", u" 12"_s, u" 12"_s, u" 12"_s},
-      {"Text3", "ovt_name", u" αθηνών "_s, u"ΑΘΗΝΩΝ"_s, u"ΑΘΗΝΩΝ"_s},
+      {"Text2", "ovt_code", u" 12"_s, u" 12"_s, u" 12"_s}, {"Text3", "ovt_name", u" αθηνών "_s, u"ΑΘΗΝΩΝ"_s, u"ΑΘΗΝΩΝ"_s},
       {"Text4", "emp_name", u"x'); DROP TABLE x; --"_s, u"X'); DROP TABLE X; --"_s, u"X'); DROP TABLE X; --"_s},
       {"FirstNmTxt", "emp_first_name", u"Ηλίας"_s, u"ΗΛΙΑΣ"_s, u"ΗΛΙΑΣ"_s},
-      {"FatherNmTxt", "emp_father_name", u"ΐων"_s, u"ΪΩΝ"_s, u"ΪΩΝ"_s},
-      {"Text5", "emp_address", u"Οδός"_s, u"ΟΔΟΣ"_s, u"ΟΔΟΣ"_s},
-      {"Text6", "emp_num", u" 2α "_s, u"2Α"_s, u"2Α"_s},
-      {"Text7", "emp_zip_code", u" ab "_s, u"AB"_s, u" ab "_s},
-      {"Text8", "emp_city", u"Βόλος"_s, u"ΒΟΛΟΣ"_s, u"ΒΟΛΟΣ"_s},
-      {"Text9", "con_descr", u"έργο"_s, u"ΕΡΓΟ"_s, u"ΕΡΓΟ"_s},
-      {"Text10", "ame", u" άΐb "_s, u"ΑΪB"_s, u" ΆΪB "_s},
-      {"Text11", "amoe", u" c "_s, u"C"_s, u" c "_s},
-      {"Text12", "afm", u" d "_s, u"D"_s, u" d "_s},
-      {"Text13", "con_address", u"site's"_s, u"SITE'S"_s, u"SITE'S"_s},
-      {"Text14", "con_num", u"4"_s, u"4"_s, u"4"_s},
-      {"Text15", "con_zip_code", u" e "_s, u"E"_s, u" e "_s},
-      {"Text16", "con_city", u"Άρτα"_s, u"ΑΡΤΑ"_s, u"ΑΡΤΑ"_s},
-      {"Text18", "sum_salaries", u" 1,5"_s, u" 1,5"_s, u" 1,5"_s},
-      {"Text19", "sum_days", u"7 "_s, u"7 "_s, u"7 "_s},
-      {"Text20", "sum_contr", u"0,1"_s, u"0,1"_s, u"0,1"_s},
+      {"FatherNmTxt", "emp_father_name", u"ΐων"_s, u"ΪΩΝ"_s, u"ΪΩΝ"_s}, {"Text5", "emp_address", u"Οδός"_s, u"ΟΔΟΣ"_s, u"ΟΔΟΣ"_s},
+      {"Text6", "emp_num", u" 2α "_s, u"2Α"_s, u"2Α"_s}, {"Text7", "emp_zip_code", u" ab "_s, u"AB"_s, u" ab "_s},
+      {"Text8", "emp_city", u"Βόλος"_s, u"ΒΟΛΟΣ"_s, u"ΒΟΛΟΣ"_s}, {"Text9", "con_descr", u"έργο"_s, u"ΕΡΓΟ"_s, u"ΕΡΓΟ"_s},
+      {"Text10", "ame", u" άΐb "_s, u"ΑΪB"_s, u" ΆΪB "_s}, {"Text11", "amoe", u" c "_s, u"C"_s, u" c "_s},
+      {"Text12", "afm", u" d "_s, u"D"_s, u" d "_s}, {"Text13", "con_address", u"site's"_s, u"SITE'S"_s, u"SITE'S"_s},
+      {"Text14", "con_num", u"4"_s, u"4"_s, u"4"_s}, {"Text15", "con_zip_code", u" e "_s, u"E"_s, u" e "_s},
+      {"Text16", "con_city", u"Άρτα"_s, u"ΑΡΤΑ"_s, u"ΑΡΤΑ"_s}, {"Text18", "sum_salaries", u" 1,5"_s, u" 1,5"_s, u" 1,5"_s},
+      {"Text19", "sum_days", u"7 "_s, u"7 "_s, u"7 "_s}, {"Text20", "sum_contr", u"0,1"_s, u"0,1"_s, u"0,1"_s},
       {"FlDateTxt", "createfldate", u"01/06/2003"_s, u"01/06/2003"_s, u"01/06/2003"_s},
       {"StopDateTxt", "stop_date", kEmptyDateBox, u""_s, u""_s},
   };

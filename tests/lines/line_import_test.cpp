@@ -293,19 +293,14 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
     QStringList after;    // the declaration's lines: number and register number
     QStringList repeats;  // the rows listed: line of the file and message
   } cases[] = {
-      {2, -1, clean, false, file, {}},
-      {1, -1, clean, false, before, {}},
-      {1, 2, clean, false, before, {}},
+      // clang-format off
+      {2, -1, clean, false, file, {}}, {1, -1, clean, false, before, {}}, {1, 2, clean, false, before, {}},
       {1, 0, repeats, false, before, {u"2 "_s + kDuplicateOfStored.arg(2), in_file}},
       {1, 1, repeats, false, before, {in_file}},
       {1, 0, clean, false, before + QStringList{u"3 300000001"_s, u"4 300000002"_s}, {}},
       {1, 1, clean, false, file, {}},
-      {1,
-       1,
-       repeats,
-       true,
-       {u"1 200000001"_s, u"2 300000001"_s, u"3 300000001"_s, u"4 "_s, u"5 "_s},
-       {in_file}},
+      {1, 1, repeats, true, {u"1 200000001"_s, u"2 300000001"_s, u"3 300000001"_s, u"4 "_s, u"5 "_s}, {in_file}},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.choice);
