@@ -266,9 +266,8 @@ TEST_F(OvtForm1Store, NewHeaderShowsThePeriodOfTheStartScreenAndItsMonths) {
       {false, {"09", "2002", "11", "2002", "09/2002", "10/2002", "11/2002"}},
   };
   const QDir dir(store_.Dir());
-  for (const char* name : {"ovt2.gif", "qormain.ico"}) {
+  for (const char* name : {"ovt2.gif", "qormain.ico"})
     ASSERT_TRUE(QFile(dir.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly));
-  }
   vars_.PreviousDeclarationId = 3;  // none is stored
   for (const auto& [carry_over, shown] : periods) {
     vars_.PeriodFrom = shown[0] + shown[1];
@@ -287,8 +286,7 @@ TEST_F(OvtForm1Store, NewHeaderShowsThePeriodOfTheStartScreenAndItsMonths) {
 }
 
 struct ColumnCase {
-  const char* field;
-  const char* column;
+  const char *field, *column;
   const char16_t* typed;
   const char16_t* stored = nullptr;  // none: as typed
   const char16_t* shown = nullptr;   // none: as stored, trimmed
@@ -332,9 +330,8 @@ TEST_F(OvtForm1Store, EveryFieldIsStoredInItsColumnAndShownFromIt) {
     SCOPED_TRACE(update ? "UPDATE" : "INSERT");
     OvtForm1& form = Open();
     if (update) form.UpDateCmd_Click();
-    for (const ColumnCase& c : kColumns) {
+    for (const ColumnCase& c : kColumns)
       form.At(QString::fromLatin1(c.field)).text = QString::fromUtf16(c.typed);
-    }
     dialogs_.messages.clear();
     form.SaveData();
     EXPECT_EQ(dialogs_.LastMessage(), kSaveDone);
@@ -554,9 +551,8 @@ TEST_F(OvtForm3Test, ShowsStoredNewAndTakenOverHeaders) {
   EXPECT_TRUE(fresh.QueryClose());
   EXPECT_EQ(screens_.quit_status, 0);
 
-  for (int row_num = 1; row_num <= 2; ++row_num) {
+  for (int row_num = 1; row_num <= 2; ++row_num)
     InsertRow(db_, Sample<ConEmployeeRow>(kId, row_num));
-  }
   vars_.PreviousDeclarationId = kId;
   vars_.CarryOver = true;
   OvtForm3& taken = Open();

@@ -286,12 +286,12 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
   const QStringList file{u"1 300000001"_s, u"2 300000002"_s};
   const QString in_file = u"4 "_s + kDuplicateInFile.arg(3);
   const struct {
-    int id;
-    int choice;  // the answer to the question; -1: the box closed
+    int id, choice;  // the choice answers the question; -1: the box closed
     const QByteArray& csv;
-    bool keep;            // the answer to the list of repeated rows
-    QStringList after;    // the declaration's lines: number and register number
-    QStringList repeats;  // the rows listed: line of the file and message
+    bool keep;  // the answer to the list of repeated rows
+    // The declaration's lines (number and register number), and the rows
+    // listed (line of the file and message).
+    QStringList after, repeats;
   } cases[] = {
       // clang-format off
       {2, -1, clean, false, file, {}}, {1, -1, clean, false, before, {}}, {1, 2, clean, false, before, {}},
@@ -315,15 +315,13 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
     EXPECT_EQ(dialogs_.confirmed.size() - previews,
               goes_on ? 1u + (c.repeats.isEmpty() ? 0u : 1u) : 0u);
     QStringList lines;
-    for (const auto& line : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", c.id)) {
+    for (const auto& line : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", c.id))
       lines << QString::number(line.row_num) + u' ' + line.insured_id.value_or(QString());
-    }
     EXPECT_EQ(lines, c.after);
     QStringList listed;
     if (dialogs_.confirmed.size() - previews == 2) {
-      for (const ReportRow& row : dialogs_.confirmed.back().rows) {
+      for (const ReportRow& row : dialogs_.confirmed.back().rows)
         listed << row.cells[0] + u' ' + row.cells[3];
-      }
       EXPECT_EQ(dialogs_.confirm_captions.back(), kRepeatsGo);
       EXPECT_EQ(dialogs_.confirmed.back().about, QStringList{kRepeatsAbout.arg(same)});
     }

@@ -243,18 +243,16 @@ TEST_F(OvtForm2Test, DeleteClosesTheGapWithoutMakingTwoLinesOneNumber) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.numbers.size());
     db_.Exec("DELETE FROM QOR_EMPLOYEES WHERE insured_id <> '555555555'");
-    for (size_t i = 0; i < c.numbers.size(); ++i) {
+    for (size_t i = 0; i < c.numbers.size(); ++i)
       StoreLine(c.numbers[i], QString::number(i + 1), QString::number(i + 1));
-    }
     Open();
     dialogs_.searches.push_back({QString::number(c.deleted), u"AMA"_s});
     form_->SeekCmd_Click();
     dialogs_.answers = {true};
     form_->DeleteCmd_Click();
     Lines left;
-    for (const auto& [row_num, id] : c.left) {
+    for (const auto& [row_num, id] : c.left)
       left.emplace_back(row_num, QString::number(id), QString::number(id));
-    }
     EXPECT_EQ(Stored(), left);
     EXPECT_EQ(Mode(), u"browse"_s);
     EXPECT_EQ(form_->Text(u"Text19"_s), std::get<1>(left.front()));  // first in order
@@ -351,15 +349,13 @@ TEST_F(OvtForm2Test, TellsWhereItStandsAndGoesToALineByNumber) {
   const auto position = [this] { return form_->Text(u"PositionLbl"_s); };
   EXPECT_EQ(position(), kPosition.arg(u"1"_s, u"3"_s));
   db_.Exec("DELETE FROM QOR_EMPLOYEES WHERE row_num = 2");  // gone behind the screen
+  // clang-format off
   const struct {
     const char* typed;
     QString message;  // none: the line is shown
-  } moves[] = {{"3", {}},
-               {"0", kGotoRange.arg(3)},
-               {"4", kGotoRange.arg(3)},
-               {"x", kGotoRange.arg(3)},
-               {"2", kGotoMissing.arg(2)},
-               {" 1 ", {}}};
+  } moves[] = {{"3", {}}, {"0", kGotoRange.arg(3)}, {"4", kGotoRange.arg(3)},
+               {"x", kGotoRange.arg(3)}, {"2", kGotoMissing.arg(2)}, {" 1 ", {}}};
+  // clang-format on
   for (const auto& move : moves) {
     SCOPED_TRACE(move.typed);
     const QString shown = form_->Text(u"Text19"_s);

@@ -79,9 +79,8 @@ class OvtForm2Test : public ScreenTest<OvtForm2> {
       EXPECT_EQ(form.At(name).visible, entry == entry_only.contains(name)) << name.toStdString();
     for (const char* name : {"FirstCmd", "PrevCmd", "Nextcmd", "LastCmd", "SeekCmd", "DeleteCmd"})
       EXPECT_EQ(form.At(QString::fromLatin1(name)).enabled, !entry) << name;
-    for (const LineField& field : form.Layout().fields) {
+    for (const LineField& field : form.Layout().fields)
       EXPECT_EQ(form.At(field.name).enabled, entry) << field.name.toStdString();
-    }
     EXPECT_TRUE(form.At(u"BackCmd"_s).visible && form.At(u"BackCmd"_s).enabled);
     if (!entry) return u"browse"_s;
     return form.EditMode() ? u"edit"_s : u"new"_s;
