@@ -1,19 +1,14 @@
 // Employee lines from CSV files: how a file is read, every row through the
 // screen's own checks, all stored or none, and the road the user takes.
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
+#include "lines/line_import.h"
 #include "header/texts.h"
 #include "lines/import_texts.h"
-#include "lines/line_import.h"
 #include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"
 #include "support/files.h"
 #include "support/lines_csv.h"
-#include "support/store_rows.h"
 
 namespace veroxia::testing {
 namespace {

@@ -14,7 +14,6 @@
 #include "lines/ovt_form4_fixture.h"
 #include "lines/texts.h"
 #include "support/rule_chain.h"
-#include "support/store_rows.h"
 
 namespace veroxia::testing {
 namespace {
@@ -136,15 +135,6 @@ TEST_F(OvtForm2Test, ModesFollowTheButtonsAndCorrectionsFindTheirLine) {
   form_->CancelCmd_Click();
   EXPECT_EQ(Mode(), u"browse"_s);
   EXPECT_EQ(form_->Text(u"Text21"_s), u"ΑΛΕΞΙΟΥ"_s);  // the edit is dropped
-
-  form_->NewCmd_Click();
-  EXPECT_EQ(Mode(), u"new"_s);
-  EXPECT_EQ(Texts({"Text19", "Text46"}), (QStringList{{}, u"0"_s}));
-  form_->Type(u"Text46"_s, u"9"_s);
-  form_->ClearCmd_Click();
-  EXPECT_EQ(form_->Text(u"Text46"_s), u"0"_s);
-  EXPECT_EQ(Mode(), u"new"_s);
-  form_->CancelCmd_Click();
 
   form_->UpDateCmd_Click();
   TypeValidLine(u"300000000"_s, u"Γκίκας"_s);  // a new register number too, now read last
@@ -376,6 +366,7 @@ TEST_F(OvtForm2Test, TellsWhereItStandsAndGoesToALineByNumber) {
   StoreLine(2, u"100000002"_s, u"Β"_s);
   form_->NewCmd_Click();
   EXPECT_EQ(position(), kPositionNew.arg(3));
+  EXPECT_EQ(Texts({"Text19", "Text46"}), (QStringList{{}, u"0"_s}));  // cleared
   EXPECT_FALSE(form_->At(u"GotoCmd"_s).enabled || form_->At(u"GotoTxt"_s).enabled);
   TypeValidLine();
   form_->OkCmd_Click();
