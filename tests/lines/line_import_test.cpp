@@ -1,19 +1,14 @@
 // Employee lines from CSV files: how a file is read, every row through the
 // screen's own checks, all stored or none, and the road the user takes.
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
+#include "lines/line_import.h"
 #include "header/texts.h"
 #include "lines/import_texts.h"
-#include "lines/line_import.h"
 #include "lines/texts.h"
 #include "ovt_form2_fixture.h"
 #include "rules/check_texts.h"
 #include "support/files.h"
 #include "support/lines_csv.h"
-#include "support/store_rows.h"
 
 namespace veroxia::testing {
 namespace {
@@ -186,9 +181,6 @@ TEST_F(LineImportTest, AllRowsOrNoneAndEveryFailingRowReported) {
   const EmployeeRow& last = stored[2];
   EXPECT_EQ(last.row_num, 3);
   EXPECT_EQ(last.surname, u"ΚΑΪΡΗΣ; \"Γ\""_s);
-  EXPECT_EQ(last.full_day, u"1"_s);
-  EXPECT_EQ(last.all_days, u"0"_s);
-  EXPECT_EQ(last.sal_from, QString());
   EXPECT_EQ(last.salary, u"12345,6"_s);
 }
 
@@ -286,26 +278,21 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
   const QStringList file{u"1 300000001"_s, u"2 300000002"_s};
   const QString in_file = u"4 "_s + kDuplicateInFile.arg(3);
   const struct {
-    int id;
-    int choice;  // the answer to the question; -1: the box closed
+    int id, choice;  // the choice answers the question; -1: the box closed
     const QByteArray& csv;
-    bool keep;            // the answer to the list of repeated rows
-    QStringList after;    // the declaration's lines: number and register number
-    QStringList repeats;  // the rows listed: line of the file and message
+    bool keep;  // the answer to the list of repeated rows
+    // The declaration's lines (number and register number), and the rows
+    // listed (line of the file and message).
+    QStringList after, repeats;
   } cases[] = {
-      {2, -1, clean, false, file, {}},
-      {1, -1, clean, false, before, {}},
-      {1, 2, clean, false, before, {}},
+      // clang-format off
+      {2, -1, clean, false, file, {}}, {1, -1, clean, false, before, {}}, {1, 2, clean, false, before, {}},
       {1, 0, repeats, false, before, {u"2 "_s + kDuplicateOfStored.arg(2), in_file}},
       {1, 1, repeats, false, before, {in_file}},
       {1, 0, clean, false, before + QStringList{u"3 300000001"_s, u"4 300000002"_s}, {}},
       {1, 1, clean, false, file, {}},
-      {1,
-       1,
-       repeats,
-       true,
-       {u"1 200000001"_s, u"2 300000001"_s, u"3 300000001"_s, u"4 "_s, u"5 "_s},
-       {in_file}},
+      {1, 1, repeats, true, {u"1 200000001"_s, u"2 300000001"_s, u"3 300000001"_s, u"4 "_s, u"5 "_s}, {in_file}},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.choice);
@@ -320,15 +307,13 @@ TEST_F(LineImportTest, StoredLinesAreKeptOrReplacedAsAnsweredAndRepeatsAsked) {
     EXPECT_EQ(dialogs_.confirmed.size() - previews,
               goes_on ? 1u + (c.repeats.isEmpty() ? 0u : 1u) : 0u);
     QStringList lines;
-    for (const auto& line : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", c.id)) {
+    for (const auto& line : SelectLines<EmployeeRow>(db_, "QOR_EMPLOYEES", "row_num", c.id))
       lines << QString::number(line.row_num) + u' ' + line.insured_id.value_or(QString());
-    }
     EXPECT_EQ(lines, c.after);
     QStringList listed;
     if (dialogs_.confirmed.size() - previews == 2) {
-      for (const ReportRow& row : dialogs_.confirmed.back().rows) {
+      for (const ReportRow& row : dialogs_.confirmed.back().rows)
         listed << row.cells[0] + u' ' + row.cells[3];
-      }
       EXPECT_EQ(dialogs_.confirm_captions.back(), kRepeatsGo);
       EXPECT_EQ(dialogs_.confirmed.back().about, QStringList{kRepeatsAbout.arg(same)});
     }
