@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "printing/page_file.h"
 #include "printing/printout.h"
 #include "printing/texts.h"
 #include "support/fakes.h"
@@ -44,6 +45,13 @@ std::vector<QStringList> PagesOf(TempStore& store, FakeDialogs& dialogs, Kind ki
   std::vector<QStringList> pages;
   for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
   return pages;
+}
+
+// A header of declaration 1 that prints, or lacks its tax number.
+void Header(Database& db, bool tax_number = true) {
+  InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", "01"},
+                                        {"emp_employer_id", "1"},
+                                        {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
 }
 
 class PagesTest : public ::testing::Test {
@@ -249,11 +257,14 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
     store.vars.DeclarationId = 1;
     common ? InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
            : InsertRow(db, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
+    QStringList stored;  // the register numbers in reading order
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
-      common ? InsertRow(db, Filled<EmployeeRow>(
-                                 n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
+      stored.prepend(id);
+      // clang-format off
+      common ? InsertRow(db, Filled<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
              : InsertRow(db, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
+      // clang-format on
     }
     const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
@@ -278,22 +289,13 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
       const int gaps = k == 0 && common ? -2 * p.blocks[k] : 0;
       EXPECT_EQ(page.size(), (k == 0 ? first : later) + p.blocks[k] * block + gaps) << k;
     }
-    QStringList sorted = ids;
-    sorted.sort();
-    EXPECT_EQ(ids, sorted);
-    EXPECT_EQ(ids.size(), p.lines);
+    EXPECT_EQ(ids, stored);
   }
 }
 
 // A store fault or a printer failure ends the printout: the problem told with
 // its number and text once the pointer is back, the document killed.
 TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
-  const auto header = [](Database& db, bool tax_number) {
-    InsertRow(db,
-              Filled<EmployerRow>(0, {{"declaration_type", "01"},
-                                      {"emp_employer_id", "1"},
-                                      {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
-  };
   const auto line = [](Database& db, int n, const char* full_day) {
     InsertRow(db, Filled<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
   };
@@ -307,11 +309,11 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
     int pages_printed;
   } cases[] = {
       {Printout::kSummary, [](Database&) {}, -1, u"0"_s + description + pt::kNoHeader, 0},
-      {Printout::kSummary, [&](Database& db) { header(db, false); }, -1,
+      {Printout::kSummary, [&](Database& db) { Header(db, false); }, -1,
        u"20"_s + description + pt::kNoValue.arg(u"Α.Φ.Μ."_s), 0},
-      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, ""); },
+      {Printout::kDeclaration, [&](Database& db) { Header(db), line(db, 1, "1"), line(db, 2, ""); },
        -1, u"20"_s + description + pt::kNotANumber.arg(QString(), pt::kFullDay.trimmed().chopped(1), u"2"_s), 1},
-      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, "1"); },
+      {Printout::kDeclaration, [&](Database& db) { Header(db), line(db, 1, "1"), line(db, 2, "1"); },
        3, u"28"_s + description + u"No space left on device"_s, 1},
   };
   // clang-format on
@@ -337,9 +339,7 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
 }
 
 TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsIt) {
-  InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", "01"},
-                                         {"emp_employer_id", "1"},
-                                         {"taxation_number", "2"}}));
+  Header(db_);
   InsertRow(db_,
             Filled<EmployeeRow>(1, {{"insured_id", "1"}, {"full_day", "0"}, {"all_days", "1"}}));
   PrintDeclaration(store_.vars, dialogs_, Kind::Common);
@@ -381,6 +381,31 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsI
   EXPECT_EQ(printer.pages.size(), 2u);
   EXPECT_EQ(printer.calls.back(), u"kill"_s);
   EXPECT_EQ(printer.calls.count(u"end"_s), 0);
+}
+
+TEST(PageFileTest, GivesBackAnyPageAsItWasPrinted) {
+  PageFile file;
+  file.SetFontSize(u"10"_s);
+  file.SetFontName(u"Courier New Greek"_s);
+  file.Print(u"ΑΒΓ\r\n  x  "_s);
+  file.Print(u"δεύτερο"_s);  // on the same page
+  file.NewPage();
+  file.NewPage();  // a page left blank
+  for (int page = 3; page <= 1000; ++page) {
+    if (page > 3) file.NewPage();
+    file.Print(QString(page, u'Ω') + QString::number(page));
+  }
+  EXPECT_EQ(file.Count(), 999);  // the last one is still being printed
+  file.EndDoc();
+  ASSERT_EQ(file.Count(), 1000);
+  EXPECT_EQ(file.Page(999), QString(1000, u'Ω') + u"1000"_s);
+  EXPECT_EQ(file.Page(0), u"ΑΒΓ\r\n  x  \r\nδεύτερο"_s);
+  EXPECT_EQ(file.Page(1), QString());
+  EXPECT_EQ(file.Page(499), QString(500, u'Ω') + u"500"_s);
+  EXPECT_EQ(file.FontSize(), u"10"_s);
+  EXPECT_EQ(file.FontName(), u"Courier New Greek"_s);
+  file.KillDoc();
+  EXPECT_EQ(file.Count(), 0);
 }
 
 }  // namespace

@@ -1,15 +1,22 @@
 // The directory dialog: which directory it hands back, and the drive that
 // cannot be read; which mounted volumes its drive list offers, in which order
-// and by which name.
+// and by which name. The search dialog: which key it hands back, or why it
+// stays. A report saved as text, and the names a declaration's files get.
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 
+#include "lines/texts.h"
 #include "shell/dir_form.h"
 #include "shell/drives.h"
+#include "shell/file_names.h"
+#include "shell/report.h"
+#include "shell/search_form.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/files.h"
+#include "support/printers.h"
 
 namespace veroxia::testing {
 namespace {
@@ -149,6 +156,85 @@ TEST(DirDialog, GoesToATypedPathAndMakesANewFolder) {
     EXPECT_EQ(form.FocusedField(),
               failed ? u"PathTxt"_s : (c.path == u"/app" ? QString() : u"Dir1"_s));
   }
+}
+
+TEST(SearchDialog, HandsBackOneKeyOrStaysOnTheNumber) {
+  const struct {
+    QString surname;
+    QString number;
+    QString message;  // empty: the dialog closes with the key below
+    SearchAnswer answer;
+  } cases[] = {
+      {u"πάπα "_s, u" "_s, {}, {u"πάπα "_s, u"NAME"_s}},
+      {{}, {}, {}, {{}, u"NAME"_s}},
+      {u"x"_s, u"123456789"_s, {}, {u"123456789"_s, u"AMA"_s}},
+      {{}, u"12345678"_s, lines_texts::kSearchNotNine, {}},
+      {{}, u"12345678x"_s, lines_texts::kSearchNotNumber, {}},
+  };
+  QTemporaryDir app;  // the program's directory, with its icon
+  ASSERT_TRUE(QFile(app.filePath(u"qormain.ico"_s)).open(QIODevice::WriteOnly));
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.number.toStdString());
+    FakeDialogs dialogs;
+    SearchForm form(app.path(), dialogs);
+    form.Load();
+    EXPECT_EQ(form.IconPath(), app.filePath(u"qormain.ico"_s));
+    form.Activate();
+    EXPECT_EQ(form.FocusedField(), u"Text2"_s);
+    form.Type(u"Text2"_s, c.surname);
+    form.Type(u"Text1"_s, c.number);
+    form.Command1_Click();
+    EXPECT_EQ(dialogs.LastMessage(), c.message);
+    EXPECT_EQ(form.Closed(), c.message.isEmpty());
+    if (!c.message.isEmpty()) {
+      EXPECT_EQ(form.FocusedField(), u"Text1"_s);
+      form.QueryClose();  // the window's close control
+    }
+    EXPECT_EQ(form.Answer().text, c.answer.text);
+    EXPECT_EQ(form.Answer().kind, c.answer.kind);
+  }
+}
+
+TEST(SearchDialog, TypingOneKeyEmptiesTheOther) {
+  FakeDialogs dialogs;
+  SearchForm form(QString(), dialogs);
+  form.Type(u"Text1"_s, u"123"_s);
+  form.Type(u"Text2"_s, u"Π"_s);
+  form.Text2_Change();
+  EXPECT_EQ(form.Text(u"Text1"_s), u""_s);
+  EXPECT_EQ(form.Text(u"Text2"_s), u"Π"_s);
+  form.Type(u"Text1"_s, u"9"_s);
+  form.Text1_Change();
+  EXPECT_EQ(form.Text(u"Text2"_s), u""_s);
+}
+
+TEST(ReportTest, SavedAsTextWholeOrToldWhyNot) {
+  Report report;
+  report.about = {u"Αρχείο: a.csv"_s};
+  report.columns = {u"ΓΡΑΜΜΗ"_s, u"ΜΗΝΥΜΑ"_s};
+  report.rows = {{{u"3"_s, u"ΠΡΟΣΟΧΗ!!"_s}, false}};
+  report.notes = {u"σημείωση"_s};
+  report.verdict = u"Τέλος."_s;
+  QTemporaryDir dir;
+  const QString path = dir.filePath(u"report.txt"_s);
+  EXPECT_EQ(SaveReportText(report, path), QString());
+  EXPECT_EQ(
+      FileBytes(path),
+      "\xEF\xBB\xBF" +
+          u"Αρχείο: a.csv\r\nΓΡΑΜΜΗ\tΜΗΝΥΜΑ\r\n3\tΠΡΟΣΟΧΗ!!\r\nσημείωση\r\nΤέλος.\r\n"_s.toUtf8());
+  const QString nowhere = dir.filePath(u"none/report.txt"_s);
+  EXPECT_TRUE(SaveReportText(report, nowhere).startsWith(texts::kFileNotWritten.arg(nowhere)));
+}
+
+TEST(ReportTest, FilesOfADeclarationAreNamedByKindNumberAndPeriod) {
+  EXPECT_EQ(DeclarationFileName(Kind::Common, 12, u"042002"_s, u"062002"_s, u"pdf"_s),
+            u"OVT-common-12-2002-04_2002-06.pdf"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Common, 7, u"042002"_s, u"042002"_s, u"txt"_s),
+            u"OVT-common-7-2002-04.txt"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Construction, 3, u"112026"_s, {}, u"csv"_s),
+            u"OVT-construction-3-2026-11.csv"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Construction, 3, u"1/2026"_s, {}, u"csv"_s),
+            u"OVT-construction-3-12026.csv"_s);
 }
 
 }  // namespace
