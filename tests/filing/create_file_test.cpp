@@ -13,7 +13,7 @@
 #include "support/files.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -56,25 +56,19 @@ TEST(CreateFile, EveryWayOutOfARun) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    testing::TempStore store;
+    TempStore store;
     Database& db = store.Open();
-    if (c.date) {
-      EmployerRow header;
-      header.id = 1;
-      header.CreateFlDate = c.date;
-      header.employer_name = c.employer;
-      InsertRow(db, header);
-    }
-    testing::AddLines(db, Kind::Common, 1, c.good_lines);
-    auto line = testing::SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s);
-    line.surname = c.surname;
-    InsertRow(db, line);
+    // clang-format off
+    if (c.date) InsertRow(db, Filled<EmployerRow>(0, {{"CreateFlDate", c.date}, {"employer_name", c.employer}}));
+    AddLines(db, Kind::Common, 1, c.good_lines);
+    InsertRow(db, Set(SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s), {{"surname", c.surname}}));
+    // clang-format on
     QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
     if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
-    const QByteArray stored = testing::FileBytes(store.Path());
+    const QByteArray stored = FileBytes(store.Path());
 
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     const QString directory = QString::fromLatin1(c.directory).replace(u"out"_s, out);
     dialogs.directories.push_back(directory);
     dialogs.answers = {true, true};  // the totals (never agreeing here), the old CSL01: go on
@@ -83,20 +77,17 @@ TEST(CreateFile, EveryWayOutOfARun) {
 
     EXPECT_EQ(dialogs.directories_asked, c.asked ? 1 : 0);
     EXPECT_EQ(dialogs.questions.size(), c.asked ? 1u + (directory == out) : 0u);
-    if (c.message.isEmpty()) {
-      EXPECT_TRUE(dialogs.messages.empty());
-    } else {
-      ASSERT_EQ(dialogs.messages.size(), 1u);
-      EXPECT_EQ(dialogs.messages[0].title, kFileTitle);
-      const QString expected = c.message.contains(u"%1"_s) ? c.message.arg(directory) : c.message;
-      EXPECT_TRUE(dialogs.messages[0].text.startsWith(expected))
-          << dialogs.messages[0].text.toStdString();
+    ASSERT_EQ(dialogs.messages.size(), c.message.isEmpty() ? 0u : 1u);
+    const QString expected = c.message.contains(u"%1"_s) ? c.message.arg(directory) : c.message;
+    for (const ShownMessage& m : dialogs.messages) {
+      EXPECT_EQ(m.title, kFileTitle);
+      EXPECT_TRUE(m.text.startsWith(expected)) << m.text.toStdString();
     }
-    EXPECT_TRUE(testing::FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
+    EXPECT_TRUE(FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
     EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{u"CSL01"_s});
     EXPECT_FALSE(dialogs.busy);
-    EXPECT_EQ(testing::FileBytes(store.Path()), stored);
+    EXPECT_EQ(FileBytes(store.Path()), stored);
   }
 }
 
@@ -126,26 +117,24 @@ TEST(CreateFile, DisagreeingTotalsAndOldVolumesAreAskedAboutFirst) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.before);
-    testing::TempStore store;
+    TempStore store;
     Database& db = store.Open();
-    db.Exec(
-        QStringLiteral("INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days, total_salaries, "
-                       "total_contributions) VALUES (1, '05/03/2002', '%1', '%1', '%1'); INSERT "
-                       "INTO QOR_CON_EMPLOYERS (id, createfldate, sum_days) VALUES (1, "
-                       "'05/03/2002', '%1')")
-            .arg(c.totals != 0)
-            .toStdString());
+    // clang-format off
+    db.Exec(QStringLiteral("INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days, total_salaries, total_contributions) "
+                           "VALUES (1, '05/03/2002', '%1', '%1', '%1'); INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, "
+                           "sum_days) VALUES (1, '05/03/2002', '%1')").arg(c.totals != 0).toStdString());
+    // clang-format on
     const QString out = store.Dir() + u"/out"_s;
     ASSERT_TRUE(QDir().mkdir(out));
     for (const QString& name : QString::fromLatin1(c.before).split(u' ')) {
-      ASSERT_TRUE(testing::WriteFile(out + u'/' + name, name.toLatin1()));
+      ASSERT_TRUE(WriteFile(out + u'/' + name, name.toLatin1()));
     }
     if (c.unfinished) {
       VolumeFiles files(out, {u"CSL03"_s});
       files.before_step = [](int step) { step == 1 ? throw step : void(); };
       EXPECT_THROW(VolumeWriter(db, Kind::Common, 1).Write(files), int);
     }
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     dialogs.directories.push_back(out);
     dialogs.answers = {c.yes};
     if (c.totals != 0) dialogs.answers.push_front(c.totals > 0);
@@ -171,8 +160,7 @@ TEST(CreateFile, DisagreeingTotalsAndOldVolumesAreAskedAboutFirst) {
         QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join(u' '),
         QLatin1StringView(c.after));
     const QString first = c.kind == Kind::Common ? u"CSL01"_s : u"CSC01"_s;
-    EXPECT_EQ(testing::FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()),
-              c.totals >= 0);
+    EXPECT_EQ(FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()), c.totals >= 0);
   }
 }
 
@@ -190,38 +178,31 @@ QStringList Rows(const TotalsReport& report) {
 // wages of February, the whole of the contributions. A line of another month
 // counts in the whole only; a wage that is no number is reported, not summed.
 TEST(Totals, CommonQuarterAgainstItsLines) {
-  testing::TempStore store;
+  TempStore store;
   Database& db = store.Open();
   db.Exec(
       "INSERT INTO QOR_EMPLOYERS (id, taxation_number, from_month, from_year, to_month, to_year, "
-      "saldate1, saldate2, saldate3, total_days1, total_days2, "
-      "total_days3, total_days, total_salaries1, total_salaries2, total_salaries3, "
-      "total_salaries, total_contributions1, total_contributions2, total_contributions3, "
-      "total_contributions) VALUES (1, '123456789', '01', '2026', '03', '2026', '01/2026', "
-      "'02/2026', '03/2026', '26', '20', "
-      "'0', '55', "
-      "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year, insurance_days, salary, "
-      "payed_contr, amka, taxation_id) VALUES (1, 1, '01', '2026', '25', '1000,50', '100', "
-      "'12345678901', '094014201'), (1, 2, '2', '2026', '20', '1000', '100', '12345678903', "
-      "'090000044'), (1, 3, '12', '2025', '10', 'x', '0', "
-      "NULL, NULL), (1, 4, '01', '2026', ' 0 ', '0,004', NULL, '', '')");
+      "saldate1, saldate2, saldate3, total_days1, total_days2, total_days3, total_days, "
+      "total_salaries1, total_salaries2, total_salaries3, total_salaries, total_contributions1, "
+      "total_contributions2, total_contributions3, total_contributions) VALUES (1, '123456789', "
+      "'01', '2026', '03', '2026', '01/2026', '02/2026', '03/2026', '26', '20', '0', '55', "
+      "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');INSERT INTO QOR_EMPLOYEES "
+      "(id, row_num, sal_month, sal_year, insurance_days, salary, payed_contr, amka, "
+      "taxation_id) VALUES (1, 1, '01', '2026', '25', '1000,50', '100', '12345678901', "
+      "'094014201'), (1, 2, '2', '2026', '20', '1000', '100', '12345678903', '090000044'), (1, "
+      "3, '12', '2025', '10', 'x', '0', NULL, NULL), (1, 4, '01', '2026', ' 0 ', '0,004', NULL, "
+      "'', '')");
   const auto report = CompareTotals(db, Kind::Common, 1);
   ASSERT_TRUE(report);
+  // clang-format off
   EXPECT_EQ(Rows(*report), (QStringList{
-                               u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 01/2026 | 26 | 25 | 1 | ≠"_s,
-                               u"ΑΠΟΔΟΧΕΣ 01/2026 | 1.000,50 | 1.000,50 | 0,00 | ="_s,
-                               u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 01/2026 | 100,00 | 100,00 | 0,00 | ="_s,
-                               u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 02/2026 | 20 | 20 | 0 | ="_s,
-                               u"ΑΠΟΔΟΧΕΣ 02/2026 | 999,00 | 1.000,00 | -1,00 | ≠"_s,
-                               u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 02/2026 | 100,00 | 100,00 | 0,00 | ="_s,
-                               u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 03/2026 | 0 | 0 | 0 | ="_s,
-                               u"ΑΠΟΔΟΧΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s,
-                               u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s,
-                               u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ | 55 | 55 | 0 | ="_s,
-                               u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.000,50 | 2.000,50 | 0,00 | ="_s,
-                               u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | 200,01 | 200,00 | 0,01 | ≠"_s,
-                           }));
+      u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 01/2026 | 26 | 25 | 1 | ≠"_s, u"ΑΠΟΔΟΧΕΣ 01/2026 | 1.000,50 | 1.000,50 | 0,00 | ="_s,
+      u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 01/2026 | 100,00 | 100,00 | 0,00 | ="_s, u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 02/2026 | 20 | 20 | 0 | ="_s,
+      u"ΑΠΟΔΟΧΕΣ 02/2026 | 999,00 | 1.000,00 | -1,00 | ≠"_s, u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 02/2026 | 100,00 | 100,00 | 0,00 | ="_s,
+      u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 03/2026 | 0 | 0 | 0 | ="_s, u"ΑΠΟΔΟΧΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s,
+      u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s, u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ | 55 | 55 | 0 | ="_s,
+      u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.000,50 | 2.000,50 | 0,00 | ="_s, u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | 200,01 | 200,00 | 0,01 | ≠"_s}));
+  // clang-format on
   ASSERT_EQ(report->unreadable.size(), 2u);
   EXPECT_EQ(report->unreadable[0].row_num, 4);  // in reading order
   EXPECT_EQ(report->unreadable[0].column, u"payed_contr"_s);
@@ -239,7 +220,7 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   store.vars.DeclarationId = 1;
   store.vars.PeriodFrom = u"012026"_s;
   store.vars.PeriodTo = u"032026"_s;
-  testing::FakeDialogs dialogs;
+  FakeDialogs dialogs;
   ShowTotals(store.vars, dialogs, Kind::Common, BoxCaptionsOf(Kind::Common));
   const Report& shown = dialogs.reports.at(0);
   QStringList boxes;  // each note up to its box
@@ -258,13 +239,12 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
 }
 
 TEST(Totals, ConstructionOfOneMonth) {
-  testing::TempStore store;
+  TempStore store;
   Database& db = store.Open();
   db.Exec(
-      "INSERT INTO QOR_CON_EMPLOYERS (id, sum_days, sum_salaries, sum_contr) VALUES "
-      "(1, '44', '2882', 'y');"
-      "INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insurance_days, salary, total_contr) VALUES "
-      "(1, 1, '22', '1441', '650,86'), (1, 2, '22', '1441,00', '650,86')");
+      "INSERT INTO QOR_CON_EMPLOYERS (id, sum_days, sum_salaries, sum_contr) VALUES (1, '44', "
+      "'2882', 'y');INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insurance_days, salary, "
+      "total_contr) VALUES (1, 1, '22', '1441', '650,86'), (1, 2, '22', '1441,00', '650,86')");
   const auto report = CompareTotals(db, Kind::Construction, 1);
   ASSERT_TRUE(report);
   EXPECT_EQ(Rows(*report), (QStringList{u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ ΣΥΝΟΛΟ | 44 | 44 | 0 | ="_s,
@@ -274,4 +254,4 @@ TEST(Totals, ConstructionOfOneMonth) {
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing
