@@ -22,10 +22,8 @@ using namespace filing_texts;
 // One run of "Δημιουργία αρχείου" from the user's side: what is asked, what
 // is told, what is written, and that the store is left as it was.
 TEST(CreateFile, EveryWayOutOfARun) {
-  const QString failed = kWriteFailed + u"\r\n"_s + texts::kErrorCode;
-  const QString ok = u"Α"_s;
-  const QString bad = u"Ж"_s;  // not in the code page
-  const QString date = u"05/03/2002"_s;
+  const QString failed = kWriteFailed + u"\r\n"_s + texts::kErrorCode, date = u"05/03/2002"_s;
+  const QString ok = u"Α"_s, bad = u"Ж"_s;  // not in the code page
   const QString nothing = u"\r\n"_s + kNothingWritten;
   const struct {
     const char* name;
@@ -203,16 +201,13 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
       u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s, u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ | 55 | 55 | 0 | ="_s,
       u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.000,50 | 2.000,50 | 0,00 | ="_s, u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | 200,01 | 200,00 | 0,01 | ≠"_s}));
   // clang-format on
-  ASSERT_EQ(report->unreadable.size(), 2u);
-  EXPECT_EQ(report->unreadable[0].row_num, 4);  // in reading order
-  EXPECT_EQ(report->unreadable[0].column, u"payed_contr"_s);
-  EXPECT_EQ(report->unreadable[1].row_num, 3);
-  EXPECT_EQ(report->unreadable[1].column, u"salary"_s);
-  EXPECT_EQ(report->unreadable[1].text, u"x"_s);
-  ASSERT_EQ(report->check_digits.size(), 3u);  // the header's, line 1's AMKA, line 2's tax number
-  EXPECT_EQ(report->check_digits[0].row_num, 0);
-  EXPECT_EQ(report->check_digits[1].column, u"amka"_s);
-  EXPECT_EQ(report->check_digits[2].text, u"090000044"_s);
+  const auto &u = report->unreadable, &digits = report->check_digits;
+  ASSERT_EQ(u.size(), 2u);  // in reading order
+  EXPECT_EQ(std::tuple(u[0].row_num, u[0].column, u[1].row_num, u[1].column, u[1].text),
+            std::tuple(4, u"payed_contr"_s, 3, u"salary"_s, u"x"_s));
+  ASSERT_EQ(digits.size(), 3u);  // the header's, line 1's AMKA, line 2's tax number
+  EXPECT_EQ(std::tuple(digits[0].row_num, digits[1].column, digits[2].text),
+            std::tuple(0, u"amka"_s, u"090000044"_s));
   EXPECT_FALSE(report->AllAgree());
   // The notes name the boxes, in the order of the lines; line 3's payroll
   // month lies outside the period. The report is offered under the

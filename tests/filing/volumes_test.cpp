@@ -96,7 +96,6 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
     SCOPED_TRACE(c.name);
     const VolumeCheck check = VerifyVolumes(Copy(QLatin1StringView(c.name), c.edit));
     const QString text = ReportText(VolumeCheckWindow(check)).join(u'\n');
-    EXPECT_FALSE(check.AllHold());
     EXPECT_EQ(check.findings.size(), static_cast<size_t>(c.findings)) << text.toStdString();
     EXPECT_TRUE(std::any_of(check.findings.begin(), check.findings.end(), [&](const auto& f) {
       return f.volume == c.volume && f.fault == c.fault && (c.record < 0 || f.record == c.record);
@@ -144,14 +143,13 @@ TEST(VolumeFilesPutInPlace, StoppedAtEachStep) {
     bool refused;      // by the check, as a write cut short
     bool is_new;       // once finished
   } cases[] = {
+      // clang-format off
       {0, false, "CSC01 CSL01 CSL02 notes.txt", true, false},
       {1, false, "CSC01 CSL01 CSL02 notes.txt", true, true},  // the journal written
-      {2, false, "CSL01 CSL02 notes.txt", true, true},
-      {3, false, "CSL01 notes.txt", true, true},  // the old CSL01
-      {4, false, "notes.txt", true, true},
-      {5, false, "CSL01 notes.txt", true, true},  // the new CSL01
-      {3, true, "CSC01 CSL01 CSL02 notes.txt", false, false},
-      {-1, false, "CSL01 notes.txt", false, true},
+      {2, false, "CSL01 CSL02 notes.txt", true, true}, {3, false, "CSL01 notes.txt", true, true},  // the old CSL01
+      {4, false, "notes.txt", true, true}, {5, false, "CSL01 notes.txt", true, true},  // the new CSL01
+      {3, true, "CSC01 CSL01 CSL02 notes.txt", false, false}, {-1, false, "CSL01 notes.txt", false, true},
+      // clang-format on
   };
   TempStore store;
   Database& db = store.Open();
@@ -175,9 +173,8 @@ TEST(VolumeFilesPutInPlace, StoppedAtEachStep) {
     const VolumeCheck check = VerifyVolumes(dir);
     EXPECT_EQ(!check.findings.empty() && check.findings[0].fault == kUnfinished, c.refused);
     FinishUnfinishedWrites(dir);
-    const QStringList now =
-        QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    EXPECT_EQ(now, c.is_new ? QStringList({u"CSL01"_s, u"notes.txt"_s}) : old);
+    EXPECT_EQ(QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              c.is_new ? QStringList({u"CSL01"_s, u"notes.txt"_s}) : old);
     EXPECT_EQ(VerifyVolumes(dir).AllHold(), c.is_new);
     EXPECT_EQ(FileBytes(dir + u"/CSL01"_s) == "CSL01", !c.is_new);
   }

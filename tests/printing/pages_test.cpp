@@ -31,17 +31,6 @@ QStringList Stop(const QString& date) {
   // clang-format on
 }
 
-// The pages as the printer received them, split into lines.
-std::vector<QStringList> PagesOf(TempStore& store, FakeDialogs& dialogs, Kind kind,
-                                 Printout printout) {
-  CapturePrinter printer;
-  EXPECT_TRUE(RunPrintout(store.vars, dialogs, kind, printout, printer))
-      << dialogs.LastMessage().toStdString();
-  std::vector<QStringList> pages;
-  for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
-  return pages;
-}
-
 // A header of declaration 1 that prints, or lacks its tax number.
 void Header(Database& db, bool tax_number = true) {
   InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", "01"},
@@ -52,8 +41,14 @@ void Header(Database& db, bool tax_number = true) {
 class PagesTest : public ::testing::Test {
  protected:
   PagesTest() { store_.vars.DeclarationId = 1; }
+  // The pages as the printer received them, split into lines.
   std::vector<QStringList> Print(Kind kind, Printout printout) {
-    return PagesOf(store_, dialogs_, kind, printout);
+    CapturePrinter printer;
+    EXPECT_TRUE(RunPrintout(store_.vars, dialogs_, kind, printout, printer))
+        << dialogs_.LastMessage().toStdString();
+    std::vector<QStringList> pages;
+    for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
+    return pages;
   }
 
   TempStore store_;
@@ -230,7 +225,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
 // Lines stored against the reading order, printed in it: the first page holds
 // one block, every later one two, and an extraordinary declaration ends with
 // its statement page.
-TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
+TEST_F(PagesTest, TwoBlocksToAPageAfterTheFirst) {
   const struct {
     Kind kind;
     int lines;
@@ -246,22 +241,21 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
   for (const auto& p : cases) {
     SCOPED_TRACE(::testing::Message() << p.lines << p.type);
     const bool common = p.kind == Kind::Common;
-    TempStore store;
-    FakeDialogs dialogs;
-    Database& db = store.Open();
-    store.vars.DeclarationId = 1;
-    common ? InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
-           : InsertRow(db, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
+    db_.Exec(
+        "DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES; DELETE FROM QOR_CON_EMPLOYERS; "
+        "DELETE FROM QOR_CON_EMPLOYEES");
+    common ? InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
+           : InsertRow(db_, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
     QStringList stored;  // the register numbers in reading order
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
       stored.prepend(id);
       // clang-format off
-      common ? InsertRow(db, Filled<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
-             : InsertRow(db, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
+      common ? InsertRow(db_, Filled<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
+             : InsertRow(db_, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
       // clang-format on
     }
-    const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
+    const std::vector<QStringList> pages = Print(p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
     const QString count = pt::kOf + QString::number(pages.size());
     const int first = common ? 21 : 24, later = 9, block = common ? 31 : 29;
@@ -270,8 +264,8 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
       const QStringList& page = pages[k];
       EXPECT_TRUE(page[4].endsWith(QString::number(k + 1) + count)) << page[4].toStdString();
       if (p.blocks[k] < 0) {
-        EXPECT_EQ(page.size(), common ? 34 : 33);
-        EXPECT_EQ(page.filter(pt::kStopStatement1).size(), 1);
+        EXPECT_EQ(std::pair(page.size(), page.filter(pt::kStopStatement1).size()),
+                  std::pair(qsizetype(common ? 34 : 33), qsizetype(1)));
         continue;
       }
       QStringList blocks;  // the register number of each block
@@ -296,7 +290,7 @@ int Killed(const CapturePrinter& printer) {
   return killed ? int(printer.pages.size()) : -1;
 }
 
-TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
+TEST_F(PagesTest, FaultsEndThePrintoutWithTheProblemMessage) {
   const auto line = [](Database& db, int n, const char* full_day) {
     InsertRow(db, Filled<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
   };
@@ -320,13 +314,12 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
   // clang-format on
   for (const auto& f : cases) {
     SCOPED_TRACE(f.code_and_description.toStdString());
-    TempStore store;
+    db_.Exec("DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES");
+    f.store(db_);
     FakeDialogs dialogs;
-    store.vars.DeclarationId = 1;
-    f.store(store.Open());
     CapturePrinter printer;
     printer.fails_at = f.printer_fails_at;
-    EXPECT_FALSE(RunPrintout(store.vars, dialogs, Kind::Common, f.printout, printer));
+    EXPECT_FALSE(RunPrintout(store_.vars, dialogs, Kind::Common, f.printout, printer));
     ASSERT_EQ(dialogs.messages.size(), 1u);
     const ShownMessage& shown = dialogs.messages[0];
     EXPECT_EQ(std::tuple(shown.text, shown.title, shown.busy),
