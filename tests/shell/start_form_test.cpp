@@ -47,7 +47,7 @@ class StartScreen : public ::testing::Test {
 
 // The store beside the program is opened once, whatever happens to the file
 // afterwards, and closed by Exit.
-TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
+TEST_F(StartScreen, LoadOpensTheStoreOnceKindButtonsOpenTheirPeriodAndExitCloses) {
   ASSERT_TRUE(form_.Load());
   EXPECT_EQ(form_.Title(), kTitleStart + kTitleVersion + QString::number(VEROXIA_VERSION_MAJOR) +
                                u'.' + QString::number(VEROXIA_VERSION_MINOR) + u')');
@@ -56,28 +56,8 @@ TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
   EXPECT_TRUE(!dialogs_.busy_calls.empty() && !dialogs_.busy);
   EXPECT_EQ(Where(&Control::visible, kKindButtons + QStringList{u"Frame1"_s}), kKindButtons);
   EXPECT_EQ(form_.ImagePath() + form_.IconPath(), QString());
-
-  const QDir dir(store_.Dir());
-  for (const char* name : {"ovt.gif", "qormain.ico"}) {
-    ASSERT_TRUE(WriteFile(dir.filePath(QString::fromLatin1(name)), "x"));
-  }
-  ASSERT_TRUE(QFile::remove(store_.Path()));
-  StartForm again(vars_, dialogs_, screens_);
-  ASSERT_TRUE(again.Load());
-  EXPECT_EQ(vars_.StoreConnection.get(), first);
-  EXPECT_EQ(QFileInfo(again.ImagePath()), QFileInfo(dir.filePath(u"ovt.gif"_s)));
-  EXPECT_EQ(QFileInfo(again.IconPath()), QFileInfo(dir.filePath(u"qormain.ico"_s)));
-  EXPECT_TRUE(dialogs_.messages.empty() && !screens_.quit_status);
-
-  again.Command3_Click();
-  EXPECT_TRUE(!vars_.StoreOpen && !vars_.StoreConnection);
-  EXPECT_EQ(screens_.quit_status, 0);
-}
-
-// A kind button opens the period fields of its kind in the focus order;
-// Cancel brings the kind buttons back and keeps what was typed and chosen.
-TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
-  ASSERT_TRUE(form_.Load());
+  // A kind button opens the period fields of its kind in the focus order;
+  // Cancel brings the kind buttons back and keeps what was typed and chosen.
   const QStringList all = kKindButtons + kCommonFields + kConFields + kFrameButtons;
   for (const bool common : {true, false}) {
     for (const bool carry_over : {true, false}) {
@@ -101,6 +81,22 @@ TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
       EXPECT_EQ(vars_.CarryOver, carry_over);
     }
   }
+
+  const QDir dir(store_.Dir());
+  for (const char* name : {"ovt.gif", "qormain.ico"}) {
+    ASSERT_TRUE(WriteFile(dir.filePath(QString::fromLatin1(name)), "x"));
+  }
+  ASSERT_TRUE(QFile::remove(store_.Path()));
+  StartForm again(vars_, dialogs_, screens_);
+  ASSERT_TRUE(again.Load());
+  EXPECT_EQ(vars_.StoreConnection.get(), first);
+  EXPECT_EQ(QFileInfo(again.ImagePath()), QFileInfo(dir.filePath(u"ovt.gif"_s)));
+  EXPECT_EQ(QFileInfo(again.IconPath()), QFileInfo(dir.filePath(u"qormain.ico"_s)));
+  EXPECT_TRUE(dialogs_.messages.empty() && !screens_.quit_status);
+
+  again.Command3_Click();
+  EXPECT_TRUE(!vars_.StoreOpen && !vars_.StoreConnection);
+  EXPECT_EQ(screens_.quit_status, 0);
 }
 
 // The rules of the period in their order, as OK applies them: a fault is told

@@ -48,8 +48,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
          ASSERT_TRUE(gone.waitForFinished());
          ASSERT_TRUE(WriteFile(store + u".lock"_s, QByteArray::number(pid) + "\nveroxia\n\n"));
        }, {}, true, true, 1},
-      {"BackupFolderCannotBeMade",
-       [](Path dir, Path) { ASSERT_TRUE(QFile(dir + u"/backups"_s).open(QIODevice::WriteOnly)); },
+      {"BackupFolderCannotBeMade", [](Path dir, Path) { ASSERT_TRUE(WriteFile(dir + u"/backups"_s, "x")); },
        [](Path dir, Path) {
          return kBackupFailed.arg(dir + u"/backups"_s) + u"\r\n"_s + texts::kErrorDescription +
                 kFolderNotWritable + u"\r\n"_s + kChangesGoAhead;
@@ -68,8 +67,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
        }, true, false, 2},
       {"ReadOnlyFile", [](Path, Path store) { QFile::setPermissions(store, QFile::ReadOwner); },
        [](Path, Path store) { return kFileReadOnly.arg(store); }, false, false, 0},
-      {"ReadOnlyFolder",
-       [](Path dir, Path) { QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner); },
+      {"ReadOnlyFolder", [](Path dir, Path) { QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner); },
        [](Path dir, Path) { return kFolderReadOnly.arg(dir); }, false, false, 0},
       {"HeldByAnotherProgram",
        [&](Path, Path store) { ASSERT_EQ(other_program.emplace(store).Take(), StoreLock::Outcome::kHeld); },
