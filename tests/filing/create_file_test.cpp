@@ -61,9 +61,8 @@ TEST(CreateFile, EveryWayOutOfARun) {
     AddLines(db, Kind::Common, 1, c.good_lines);
     InsertRow(db, Set(SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s), {{"surname", c.surname}}));
     // clang-format on
-    QDir(store.Dir()).mkdir(u"out"_s);
     const QString out = store.Dir() + u"/out"_s;
-    if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
+    ASSERT_TRUE(QDir().mkdir(out) && WriteFile(out + u"/CSL01"_s, "old"));
     const QByteArray stored = FileBytes(store.Path());
 
     FakeDialogs dialogs;
@@ -175,7 +174,7 @@ QStringList Rows(const TotalsReport& report) {
 // A quarter with one disagreement in each quantity: the days of January, the
 // wages of February, the whole of the contributions. A line of another month
 // counts in the whole only; a wage that is no number is reported, not summed.
-TEST(Totals, CommonQuarterAgainstItsLines) {
+TEST(Totals, CommonQuarterAndConstructionMonthAgainstTheirLines) {
   TempStore store;
   Database& db = store.Open();
   db.Exec(
@@ -231,20 +230,16 @@ TEST(Totals, CommonQuarterAgainstItsLines) {
   EXPECT_EQ(shown.file_name, u"OVT-common-1-2026-01_2026-03.txt"_s);
   EXPECT_FALSE(shown.rows.back().holds);
   EXPECT_EQ(shown.verdict, kTotalsDisagree);
-}
-
-TEST(Totals, ConstructionOfOneMonth) {
-  TempStore store;
-  Database& db = store.Open();
+  // A construction declaration: the whole of each quantity only.
   db.Exec(
       "INSERT INTO QOR_CON_EMPLOYERS (id, sum_days, sum_salaries, sum_contr) VALUES (1, '44', "
       "'2882', 'y');INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insurance_days, salary, "
       "total_contr) VALUES (1, 1, '22', '1441', '650,86'), (1, 2, '22', '1441,00', '650,86')");
-  const auto report = CompareTotals(db, Kind::Construction, 1);
-  ASSERT_TRUE(report);
-  EXPECT_EQ(Rows(*report), (QStringList{u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ ΣΥΝΟΛΟ | 44 | 44 | 0 | ="_s,
-                                        u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.882,00 | 2.882,00 | 0,00 | ="_s,
-                                        u"ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | y | 1.301,72 |  | ≠"_s}));
+  const auto construction = CompareTotals(db, Kind::Construction, 1);
+  ASSERT_TRUE(construction);
+  EXPECT_EQ(Rows(*construction), (QStringList{u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ ΣΥΝΟΛΟ | 44 | 44 | 0 | ="_s,
+                                              u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.882,00 | 2.882,00 | 0,00 | ="_s,
+                                              u"ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | y | 1.301,72 |  | ≠"_s}));
   EXPECT_FALSE(CompareTotals(db, Kind::Construction, 2));
 }
 

@@ -335,8 +335,7 @@ TEST(VolumeFields, PlainValuesAsTheFormatsMakeThem) {
   for (int i = 0; i < 20'000; ++i) {
     std::string value(random() % 7, ' ');
     for (char& c : value) c = alphabet[random() % alphabet.size()];
-    const VolumeField field{0, 1, static_cast<int>(random() % 6), "x",
-                            static_cast<FieldFormat>(random() % 6)};
+    const VolumeField field{0, 1, int(random() % 6), "x", FieldFormat(random() % 6)};
     const bool null = random() % 10 == 0;
     QByteArray out = "<";
     if (!AppendPlainField(out, field,
@@ -383,20 +382,17 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
   EXPECT_EQ(volumes.Types(0), "123E");
   const QList<QByteArray> records = volumes.Records(0);
   EXPECT_EQ(records[0].size(), 414);
+  // "Αθηνών"; no days, then the wages; submitted, never stopped
+  // clang-format off
   for (const auto& [start, expected] : std::initializer_list<std::pair<int, QByteArray>>{
-           {1, "10101CSL01   01"},
-           {16, "01051"},
-           {21, "\xC1\xE8\xE7\xED\xFE\xED" + QByteArray(44, ' ')},  // "Αθηνών"
-           {337, "00000000000000123450"},                           // no days, then the wages
-           {369, "05032002        "},                               // submitted, never stopped
-           {385, QByteArray(30, ' ')}}) {
+           {1, "10101CSL01   01"}, {16, "01051"}, {21, "\xC1\xE8\xE7\xED\xFE\xED" + QByteArray(44, ' ')},
+           {337, "00000000000000123450"}, {369, "05032002        "}, {385, QByteArray(30, ' ')}}) {
     EXPECT_EQ(records[0].mid(start - 1, expected.size()), expected) << start;
   }
   // "Παπαδόπουλος" and "ΙΩΑΝΝΗΣ" in the Greek code page
-  EXPECT_EQ(records[1], "2123456789" + QByteArray(11, ' ') +
-                            "\xD0\xE1\xF0\xE1\xE4\xFC\xF0\xEF\xF5\xEB\xEF\xF2" +
-                            QByteArray(68, ' ') + "\xC9\xD9\xC1\xCD\xCD\xC7\xD3" +
-                            QByteArray(53, ' ') + "00531970" + "012345678");
+  EXPECT_EQ(records[1], "2123456789" + QByteArray(11, ' ') + "\xD0\xE1\xF0\xE1\xE4\xFC\xF0\xEF\xF5\xEB\xEF\xF2" +
+                            QByteArray(68, ' ') + "\xC9\xD9\xC1\xCD\xCD\xC7\xD3" + QByteArray(53, ' ') + "00531970012345678");
+  // clang-format on
   EXPECT_EQ(records[2], Join("3|0012|5221|1|0|2|913120|00|0101|03|2002|01032002|        |01|025|"
                              "0000123450|0000010000|0000003087|0000000000|0000000-500|"
                              "0000000013|01250|0000000abc|1234567890150"));

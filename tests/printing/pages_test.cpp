@@ -117,8 +117,6 @@ QStringList Labelled(const std::vector<std::pair<QString, QString>>& rows) {
   return lines;
 }
 
-QStringList FourEmpty() { return {u""_s, u""_s, u""_s, u""_s}; }
-
 // clang-format off
 TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
   InsertRow(db_, Set(Sample<EmployerRow>(1), {
@@ -141,7 +139,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
   const QString from = u"01 /"_s + V("from_year", "1.0");
   const QString to = V("to_month", "1.0") + u'/' + V("to_year", "1.0");
   const QString ame = V("emp_employer_id", "1.0"), afm = V("taxation_number", "1.0");
-  const QStringList page1 = FourEmpty() + QStringList{
+  const QStringList page1 = QStringList(4) + QStringList{
       pt::kPage1 + u"1"_s + pt::kOf + u"3"_s, u""_s, pt::kType + u"02 ΕΚΤΑΚΤΗ "_s, u""_s,
       pt::kBranch + V("orgbra_branch_code", "1.0") + u' ' + V("orgbra_branch_descr", "1.0"),
       pt::kEmployer + V("employer_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -169,10 +167,10 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       {pt::kSubsidy, V("subsidy_amount")}, {pt::kSubsidyPercent, V("emp_subsidy_percent")},
       {pt::kSubsidyAmount, V("emp_subsidy_amount")}, {pt::kPayedContr, u"0,00"_s}});
   EXPECT_EQ(pages[0], page1);
-  EXPECT_EQ(pages[1].mid(0, 9), (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[1].mid(0, 9), (QStringList(4) + QStringList{
       pt::kPageN + u"2"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kPageAfm + afm,
       pt::kFrom + from + pt::kPageTo + to, u""_s}));
-  EXPECT_EQ(pages[2], (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[2], (QStringList(4) + QStringList{
       pt::kLastPage + u"3"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kLastAfm + afm,
       pt::kFrom + from + pt::kPageTo + to, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s,
       pt::kCessation, pt::kCessation2, u""_s} + Stop(V("stop_date", "1.0"))));
@@ -188,7 +186,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
   const std::vector<QStringList> pages = Print(Kind::Construction, Printout::kDeclaration);
   ASSERT_EQ(pages.size(), 2u);
   const QString month = V("from_month", "1.0") + u'/' + V("from_year", "1.0");
-  const QStringList page1 = FourEmpty() + QStringList{
+  const QStringList page1 = QStringList(4) + QStringList{
       pt::kConPage1 + u"1"_s + pt::kOf + u"2"_s, u""_s, pt::kType + u"02 "_s + pt::kExtraordinary,
       u""_s, pt::kBranch + u"045 "_s + V("ovt_name", "1.0"),
       pt::kEmployer + V("emp_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -214,7 +212,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
       {pt::kInsuredContr, V("insured_contr")}, {pt::kEmployerContr, V("employer_contr")},
       {pt::kTotalContr, V("total_contr")}}) + QStringList{u""_s};
   EXPECT_EQ(pages[0], page1);
-  EXPECT_EQ(pages[1], (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[1], (QStringList(4) + QStringList{
       pt::kLastPage + u"2"_s + pt::kOf + u"2"_s, u""_s,
       pt::kConPageAme + V("ame", "1.0") + pt::kConPageAmoe + V("amoe", "1.0") + pt::kConPageAfm + V("afm", "1.0"),
       pt::kConPageMonth + month, u""_s, u""_s, u""_s, u""_s, u""_s, pt::kConCessation, pt::kCessation2,
