@@ -17,8 +17,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kPrevious = 5;
-constexpr int kNew = 6;
+constexpr int kPrevious = 5, kNew = 6;
 
 class CarryOver : public ::testing::Test {
  protected:
@@ -82,10 +81,10 @@ TEST_F(CarryOver, CopiesTheLinesOfItsKindUnderTheNewIdOnce) {
 TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {
   AddCommonLines();
   InsertRow(db_, Sample<EmployeeRow>(40, 1));
-  db_.Exec("INSERT INTO QOR_TEMP_EMPLOYEES SELECT * FROM QOR_EMPLOYEES WHERE id = 40");
-  db_.Exec(
-      "CREATE TRIGGER fail BEFORE INSERT ON QOR_EMPLOYEES WHEN NEW.id = 6 "
-      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format off
+  db_.Exec("INSERT INTO QOR_TEMP_EMPLOYEES SELECT * FROM QOR_EMPLOYEES WHERE id = 40; CREATE TRIGGER fail "
+           "BEFORE INSERT ON QOR_EMPLOYEES WHEN NEW.id = 6 BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format on
   const auto lines = DumpTable(db_, "QOR_EMPLOYEES");
   const auto scratch = DumpTable(db_, "QOR_TEMP_EMPLOYEES");
 
@@ -165,9 +164,10 @@ TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
 
   Prepare(u"012026-032026 042026-062026"_s, u"01/2026 03/2026 12/2025"_s);
   OfferPayrollMove(store_.vars, dialogs_, Kind::Construction);
-  db_.Exec(
-      "CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' "
-      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format off
+  db_.Exec("CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' BEGIN "
+           "SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format on
   dialogs_.answers = {true};
   OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
   ASSERT_EQ(dialogs_.questions.size(), 1u);

@@ -99,7 +99,7 @@ TEST(DirDialog, HandsBackTheOpenedDirectory) {
               (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
   }
   EXPECT_EQ(DirForm::FocusOrder(),
-            QString(u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s).split(u' '));
+            u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s.split(u' '));
 }
 
 // In the program's directory app/, which holds out/ and a file "note": a

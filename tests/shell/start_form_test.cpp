@@ -160,11 +160,10 @@ struct SettleCase {
   const char* name;
   std::vector<std::pair<int, const char*>> stored;  // headers of the kind: id, month of 2002
   bool carry_over;
-  QString month;        // typed, of 2002
-  QString message;      // told, if anything
-  int id;               // the declaration opened; 99 (as before): none
-  bool carried;         // it takes over the lines of id - 1
-  bool broken = false;  // the kind's header table is gone
+  QString month, message;  // typed, of 2002; told, if anything
+  int id;                  // the declaration opened; 99 (as before): none
+  bool carried;            // it takes over the lines of id - 1
+  bool broken = false;     // the kind's header table is gone
 };
 
 // clang-format off
