@@ -5,13 +5,15 @@
 #include <QDir>
 
 #include "filing/texts.h"
+#include "filing/totals.h"
 #include "filing/volume_files.h"
+#include "header/box_captions.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
 #include "support/files.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -20,10 +22,8 @@ using namespace filing_texts;
 // One run of "Δημιουργία αρχείου" from the user's side: what is asked, what
 // is told, what is written, and that the store is left as it was.
 TEST(CreateFile, EveryWayOutOfARun) {
-  const QString failed = kWriteFailed + u"\r\n"_s + texts::kErrorCode;
-  const QString ok = u"Α"_s;
-  const QString bad = u"Ж"_s;  // not in the code page
-  const QString date = u"05/03/2002"_s;
+  const QString failed = kWriteFailed + u"\r\n"_s + texts::kErrorCode, date = u"05/03/2002"_s;
+  const QString ok = u"Α"_s, bad = u"Ж"_s;  // not in the code page
   const QString nothing = u"\r\n"_s + kNothingWritten;
   const struct {
     const char* name;
@@ -54,25 +54,18 @@ TEST(CreateFile, EveryWayOutOfARun) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    testing::TempStore store;
+    TempStore store;
     Database& db = store.Open();
-    if (c.date) {
-      EmployerRow header;
-      header.id = 1;
-      header.CreateFlDate = c.date;
-      header.employer_name = c.employer;
-      InsertRow(db, header);
-    }
-    testing::AddLines(db, Kind::Common, 1, c.good_lines);
-    auto line = testing::SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s);
-    line.surname = c.surname;
-    InsertRow(db, line);
-    QDir(store.Dir()).mkdir(u"out"_s);
+    // clang-format off
+    if (c.date) InsertRow(db, Filled<EmployerRow>(0, {{"CreateFlDate", c.date}, {"employer_name", c.employer}}));
+    AddLines(db, Kind::Common, 1, c.good_lines);
+    InsertRow(db, Set(SampleLine<EmployeeRow>(1, c.good_lines + 1, u"123456789"_s), {{"surname", c.surname}}));
+    // clang-format on
     const QString out = store.Dir() + u"/out"_s;
-    if (QFile old(out + u"/CSL01"_s); old.open(QIODevice::WriteOnly)) old.write("old");
-    const QByteArray stored = testing::FileBytes(store.Path());
+    ASSERT_TRUE(QDir().mkdir(out) && WriteFile(out + u"/CSL01"_s, "old"));
+    const QByteArray stored = FileBytes(store.Path());
 
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     const QString directory = QString::fromLatin1(c.directory).replace(u"out"_s, out);
     dialogs.directories.push_back(directory);
     dialogs.answers = {true, true};  // the totals (never agreeing here), the old CSL01: go on
@@ -81,95 +74,80 @@ TEST(CreateFile, EveryWayOutOfARun) {
 
     EXPECT_EQ(dialogs.directories_asked, c.asked ? 1 : 0);
     EXPECT_EQ(dialogs.questions.size(), c.asked ? 1u + (directory == out) : 0u);
-    if (c.message.isEmpty()) {
-      EXPECT_TRUE(dialogs.messages.empty());
-    } else {
-      ASSERT_EQ(dialogs.messages.size(), 1u);
-      EXPECT_EQ(dialogs.messages[0].title, kFileTitle);
-      const QString expected = c.message.contains(u"%1"_s) ? c.message.arg(directory) : c.message;
-      EXPECT_TRUE(dialogs.messages[0].text.startsWith(expected))
-          << dialogs.messages[0].text.toStdString();
+    ASSERT_EQ(dialogs.messages.size(), c.message.isEmpty() ? 0u : 1u);
+    const QString expected = c.message.contains(u"%1"_s) ? c.message.arg(directory) : c.message;
+    for (const ShownMessage& m : dialogs.messages) {
+      EXPECT_EQ(m.title, kFileTitle);
+      EXPECT_TRUE(m.text.startsWith(expected)) << m.text.toStdString();
     }
-    EXPECT_TRUE(testing::FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
+    EXPECT_TRUE(FileBytes(out + u"/CSL01"_s).startsWith(c.volume));
     EXPECT_EQ(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList{u"CSL01"_s});
     EXPECT_FALSE(dialogs.busy);
-    EXPECT_EQ(testing::FileBytes(store.Path()), stored);
+    EXPECT_EQ(FileBytes(store.Path()), stored);
   }
 }
 
-// Totals that do not agree ask first; No writes nothing and asks no more.
-TEST(CreateFile, TotalsThatDoNotAgreeAskFirst) {
-  testing::TempStore store;
-  Database& db = store.Open();
-  db.Exec(
-      "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days, total_salaries, "
-      "total_contributions) VALUES (1, '05/03/2002', '25', '100', '10');"
-      "INSERT INTO QOR_EMPLOYEES (id, row_num, insurance_days, salary, payed_contr) "
-      "VALUES (1, 1, '25', '100', '10')");
-  store.vars.DeclarationId = 1;
-  for (const bool agree : {true, false}) {
-    if (!agree) db.Exec("UPDATE QOR_EMPLOYEES SET salary = '100,01'");
-    testing::FakeDialogs dialogs;
-    EXPECT_EQ(CreateFile(store.vars, dialogs, Kind::Common), FileOutcome::kCancelled);
-    EXPECT_EQ(dialogs.questions.size(), agree ? 0u : 1u);
-    EXPECT_EQ(dialogs.directories_asked, agree ? 1 : 0);
-    if (!agree) {
-      EXPECT_EQ(dialogs.questions[0].text, kTotalsQuestion);
-      EXPECT_EQ(dialogs.questions[0].title, kFileTitle);
-      EXPECT_EQ(dialogs.last_style, AskStyle::Question);
-    }
-  }
-}
-
+// Totals that do not agree ask first, and No writes nothing and asks no more.
 // The volumes of an earlier run in the directory, of the kind and of the
 // other kind, are named in one question before anything is written: No keeps
 // them and tells nothing more, Yes leaves the new set in their place beside
 // the other files. A write cut short there (taking CSL03 away) is finished
 // first.
-TEST(CreateFile, OldVolumesAreNamedFirst) {
+TEST(CreateFile, DisagreeingTotalsAndOldVolumesAreAskedAboutFirst) {
   const struct {
     Kind kind;
     const char* before;  // the files in the directory
     bool unfinished;
+    int totals;  // 0: they agree; else they do not and the answer is Yes (1) or No (-1)
     bool yes;
     const char* named;  // of the kind, then of the other kind; none: no question
     const char* after;
   } cases[] = {
       // clang-format off
-      {Kind::Common, "CSC01 CSL01 CSL02 CSL03 CSL1 x", true, false, "CSL01, CSL02|CSC01", "CSC01 CSL01 CSL02 CSL1 x"},
-      {Kind::Common, "CSC01 CSL01 CSL02 CSL1 x", false, true, "CSL01, CSL02|CSC01", "CSL01 CSL1 x"},
-      {Kind::Construction, "CSC02 CSL01", false, true, "CSC02|CSL01", "CSC01"},
-      {Kind::Common, "x", false, true, nullptr, "CSL01 x"},
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL03 CSL1 x", true, 1, false, "CSL01, CSL02|CSC01", "CSC01 CSL01 CSL02 CSL1 x"},
+      {Kind::Common, "CSC01 CSL01 CSL02 CSL1 x", false, 1, true, "CSL01, CSL02|CSC01", "CSL01 CSL1 x"},
+      {Kind::Construction, "CSC02 CSL01", false, 1, true, "CSC02|CSL01", "CSC01"},
+      {Kind::Common, "x", false, 0, true, nullptr, "CSL01 x"},
+      {Kind::Common, "CSL01 x", false, -1, false, nullptr, "CSL01 x"},
       // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.before);
-    testing::TempStore store;
+    TempStore store;
     Database& db = store.Open();
-    db.Exec(  // totals that do not agree: asked about first
-        "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days) VALUES (1, '05/03/2002', '1');"
-        "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, sum_days) VALUES (1, '05/03/2002', '1')");
+    // clang-format off
+    db.Exec(QStringLiteral("INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, total_days, total_salaries, total_contributions) "
+                           "VALUES (1, '05/03/2002', '%1', '%1', '%1'); INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, "
+                           "sum_days) VALUES (1, '05/03/2002', '%1')").arg(c.totals != 0).toStdString());
+    // clang-format on
     const QString out = store.Dir() + u"/out"_s;
     ASSERT_TRUE(QDir().mkdir(out));
     for (const QString& name : QString::fromLatin1(c.before).split(u' ')) {
-      ASSERT_TRUE(testing::WriteFile(out + u'/' + name, name.toLatin1()));
+      ASSERT_TRUE(WriteFile(out + u'/' + name, name.toLatin1()));
     }
     if (c.unfinished) {
       VolumeFiles files(out, {u"CSL03"_s});
       files.before_step = [](int step) { step == 1 ? throw step : void(); };
       EXPECT_THROW(VolumeWriter(db, Kind::Common, 1).Write(files), int);
     }
-    testing::FakeDialogs dialogs;
+    FakeDialogs dialogs;
     dialogs.directories.push_back(out);
-    dialogs.answers = {true, c.yes};
+    dialogs.answers = {c.yes};
+    if (c.totals != 0) dialogs.answers.push_front(c.totals > 0);
     store.vars.DeclarationId = 1;
     EXPECT_EQ(CreateFile(store.vars, dialogs, c.kind),
               c.yes ? FileOutcome::kWritten : FileOutcome::kCancelled);
-    ASSERT_EQ(dialogs.questions.size(), c.named ? 2u : 1u);
+    EXPECT_EQ(dialogs.directories_asked, c.totals >= 0 ? 1 : 0);
+    ASSERT_EQ(dialogs.questions.size(), (c.totals != 0) + (c.named ? 1u : 0u));
+    if (c.totals != 0) {
+      EXPECT_EQ(dialogs.questions[0].text, kTotalsQuestion);
+      EXPECT_EQ(dialogs.questions[0].title, kFileTitle);
+      EXPECT_EQ(dialogs.last_style, AskStyle::Question);
+    }
     if (c.named) {
       const QStringList named = QString::fromLatin1(c.named).split(u'|');
-      EXPECT_EQ(dialogs.questions[1].text,
+      EXPECT_EQ(dialogs.questions.back().text,
                 QStringList({kOldVolumes.arg(out), kOldVolumesReplaced.arg(named[0]),
                              kOldVolumesOtherKind.arg(named[1]), kOldVolumesQuestion})
                     .join(u"\r\n"_s));
@@ -179,9 +157,91 @@ TEST(CreateFile, OldVolumesAreNamedFirst) {
         QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join(u' '),
         QLatin1StringView(c.after));
     const QString first = c.kind == Kind::Common ? u"CSL01"_s : u"CSC01"_s;
-    EXPECT_TRUE(testing::FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()));
+    EXPECT_EQ(FileBytes(out + u'/' + first).startsWith("10101" + first.toLatin1()), c.totals >= 0);
   }
 }
 
+// Each row as "label | header | lines | difference | agrees".
+QStringList Rows(const TotalsReport& report) {
+  QStringList rows;
+  for (const TotalsRow& r : report.rows) {
+    rows << QStringList{r.label, r.header, r.lines, r.difference, r.agrees ? u"="_s : u"≠"_s}.join(
+        u" | "_s);
+  }
+  return rows;
+}
+
+// A quarter with one disagreement in each quantity: the days of January, the
+// wages of February, the whole of the contributions. A line of another month
+// counts in the whole only; a wage that is no number is reported, not summed.
+TEST(Totals, CommonQuarterAndConstructionMonthAgainstTheirLines) {
+  TempStore store;
+  Database& db = store.Open();
+  db.Exec(
+      "INSERT INTO QOR_EMPLOYERS (id, taxation_number, from_month, from_year, to_month, to_year, "
+      "saldate1, saldate2, saldate3, total_days1, total_days2, total_days3, total_days, "
+      "total_salaries1, total_salaries2, total_salaries3, total_salaries, total_contributions1, "
+      "total_contributions2, total_contributions3, total_contributions) VALUES (1, '123456789', "
+      "'01', '2026', '03', '2026', '01/2026', '02/2026', '03/2026', '26', '20', '0', '55', "
+      "'1000,5', '999', '0', '2000,5', '100', '100', '0', '200,01');INSERT INTO QOR_EMPLOYEES "
+      "(id, row_num, sal_month, sal_year, insurance_days, salary, payed_contr, amka, "
+      "taxation_id) VALUES (1, 1, '01', '2026', '25', '1000,50', '100', '12345678901', "
+      "'094014201'), (1, 2, '2', '2026', '20', '1000', '100', '12345678903', '090000044'), (1, "
+      "3, '12', '2025', '10', 'x', '0', NULL, NULL), (1, 4, '01', '2026', ' 0 ', '0,004', NULL, "
+      "'', '')");
+  const auto report = CompareTotals(db, Kind::Common, 1);
+  ASSERT_TRUE(report);
+  // clang-format off
+  EXPECT_EQ(Rows(*report), (QStringList{
+      u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 01/2026 | 26 | 25 | 1 | ≠"_s, u"ΑΠΟΔΟΧΕΣ 01/2026 | 1.000,50 | 1.000,50 | 0,00 | ="_s,
+      u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 01/2026 | 100,00 | 100,00 | 0,00 | ="_s, u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 02/2026 | 20 | 20 | 0 | ="_s,
+      u"ΑΠΟΔΟΧΕΣ 02/2026 | 999,00 | 1.000,00 | -1,00 | ≠"_s, u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 02/2026 | 100,00 | 100,00 | 0,00 | ="_s,
+      u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ 03/2026 | 0 | 0 | 0 | ="_s, u"ΑΠΟΔΟΧΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s,
+      u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ 03/2026 | 0,00 | 0,00 | 0,00 | ="_s, u"ΗΜΕΡΕΣ ΑΣΦΑΛΙΣΗΣ ΣΥΝΟΛΟ | 55 | 55 | 0 | ="_s,
+      u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.000,50 | 2.000,50 | 0,00 | ="_s, u"ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | 200,01 | 200,00 | 0,01 | ≠"_s}));
+  // clang-format on
+  const auto &u = report->unreadable, &digits = report->check_digits;
+  ASSERT_EQ(u.size(), 2u);  // in reading order
+  EXPECT_EQ(std::tuple(u[0].row_num, u[0].column, u[1].row_num, u[1].column, u[1].text),
+            std::tuple(4, u"payed_contr"_s, 3, u"salary"_s, u"x"_s));
+  ASSERT_EQ(digits.size(), 3u);  // the header's, line 1's AMKA, line 2's tax number
+  EXPECT_EQ(std::tuple(digits[0].row_num, digits[1].column, digits[2].text),
+            std::tuple(0, u"amka"_s, u"090000044"_s));
+  EXPECT_FALSE(report->AllAgree());
+  // The notes name the boxes, in the order of the lines; line 3's payroll
+  // month lies outside the period. The report is offered under the
+  // declaration's name.
+  store.vars.DeclarationId = 1;
+  store.vars.PeriodFrom = u"012026"_s;
+  store.vars.PeriodTo = u"032026"_s;
+  FakeDialogs dialogs;
+  ShowTotals(store.vars, dialogs, Kind::Common, BoxCaptionsOf(Kind::Common));
+  const Report& shown = dialogs.reports.at(0);
+  QStringList boxes;  // each note up to its box
+  for (const QString& note : shown.notes) boxes << note.section(u'\'', 0, 1);
+  EXPECT_EQ(boxes, (QStringList{u"Η επικεφαλίδα έχει στο πεδίο 'Α.Φ.Μ. (6)"_s,
+                                u"Η γραμμή 1 έχει στο πεδίο 'Α.Μ.Κ.Α (20)"_s,
+                                u"Η γραμμή 2 έχει στο πεδίο 'Α.Φ.Μ. (26)"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΜΙΣΘΟΛ. ΠΕΡΙΟΔΟΣ (33) MM/EEEE"_s,
+                                u"Η γραμμή 3 έχει στο πεδίο 'ΑΠΟΔΟΧΕΣ (39)"_s,
+                                u"Η γραμμή 4 έχει στο πεδίο 'ΚΑΤΑΒΛ. ΕΙΣΦΟΡΕΣ (46)"_s}));
+  EXPECT_TRUE(shown.notes[3].endsWith(
+      u"'12/2025', έξω από την περίοδο της δήλωσης (01/2026 έως 03/2026)."_s));
+  EXPECT_EQ(shown.file_name, u"OVT-common-1-2026-01_2026-03.txt"_s);
+  EXPECT_FALSE(shown.rows.back().holds);
+  EXPECT_EQ(shown.verdict, kTotalsDisagree);
+  // A construction declaration: the whole of each quantity only.
+  db.Exec(
+      "INSERT INTO QOR_CON_EMPLOYERS (id, sum_days, sum_salaries, sum_contr) VALUES (1, '44', "
+      "'2882', 'y');INSERT INTO QOR_CON_EMPLOYEES (id, row_num, insurance_days, salary, "
+      "total_contr) VALUES (1, 1, '22', '1441', '650,86'), (1, 2, '22', '1441,00', '650,86')");
+  const auto construction = CompareTotals(db, Kind::Construction, 1);
+  ASSERT_TRUE(construction);
+  EXPECT_EQ(Rows(*construction), (QStringList{u"ΗΜΕΡΕΣ ΑΠΑΣΧΟΛΗΣΗΣ ΣΥΝΟΛΟ | 44 | 44 | 0 | ="_s,
+                                              u"ΑΠΟΔΟΧΕΣ ΣΥΝΟΛΟ | 2.882,00 | 2.882,00 | 0,00 | ="_s,
+                                              u"ΕΙΣΦΟΡΕΣ ΣΥΝΟΛΟ | y | 1.301,72 |  | ≠"_s}));
+  EXPECT_FALSE(CompareTotals(db, Kind::Construction, 2));
+}
+
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

@@ -4,21 +4,17 @@
 
 #include <functional>
 
+#include "printing/page_file.h"
 #include "printing/printout.h"
 #include "printing/texts.h"
 #include "support/fakes.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
 namespace pt = printing_texts;
-using testing::CapturePrinter;
-using testing::FakeDialogs;
-using testing::Filled;
-using testing::Set;
-using testing::TempStore;
 
 QString B(int count) { return QString(count, u' '); }
 
@@ -35,22 +31,24 @@ QStringList Stop(const QString& date) {
   // clang-format on
 }
 
-// The pages as the printer received them, split into lines.
-std::vector<QStringList> PagesOf(TempStore& store, FakeDialogs& dialogs, Kind kind,
-                                 Printout printout) {
-  CapturePrinter printer;
-  EXPECT_TRUE(RunPrintout(store.vars, dialogs, kind, printout, printer))
-      << dialogs.LastMessage().toStdString();
-  std::vector<QStringList> pages;
-  for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
-  return pages;
+// A header of declaration 1 that prints, or lacks its tax number.
+void Header(Database& db, bool tax_number = true) {
+  InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", "01"},
+                                        {"emp_employer_id", "1"},
+                                        {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
 }
 
 class PagesTest : public ::testing::Test {
  protected:
   PagesTest() { store_.vars.DeclarationId = 1; }
+  // The pages as the printer received them, split into lines.
   std::vector<QStringList> Print(Kind kind, Printout printout) {
-    return PagesOf(store_, dialogs_, kind, printout);
+    CapturePrinter printer;
+    EXPECT_TRUE(RunPrintout(store_.vars, dialogs_, kind, printout, printer))
+        << dialogs_.LastMessage().toStdString();
+    std::vector<QStringList> pages;
+    for (const QString& page : printer.pages) pages.push_back(page.split(u"\r\n"_s));
+    return pages;
   }
 
   TempStore store_;
@@ -119,11 +117,9 @@ QStringList Labelled(const std::vector<std::pair<QString, QString>>& rows) {
   return lines;
 }
 
-QStringList FourEmpty() { return {u""_s, u""_s, u""_s, u""_s}; }
-
 // clang-format off
 TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
-  InsertRow(db_, Set(testing::Sample<EmployerRow>(1), {
+  InsertRow(db_, Set(Sample<EmployerRow>(1), {
       {"declaration_type", u"02"_s}, {"declaration_descr", u"ΕΚΤΑΚΤΗ "_s}, {"from_month", u"01 "_s},
       {"saldate1", u"01/2026"_s}, {"saldate2", u"02/2026"_s}, {"saldate3", u"03/2026"_s},
       {"total_days1", u"1"_s}, {"total_days2", {}}, {"total_days3", u"22"_s}, {"total_days", u"1234"_s},
@@ -131,10 +127,10 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       {"total_salaries", u"12345678901234,5"_s},  // longer than its room: written whole
       {"total_contributions1", u"7"_s}, {"total_contributions2", u"7"_s},
       {"total_contributions3", u"7"_s}, {"total_contributions", u"21"_s}}));
-  InsertRow(db_, Set(testing::Sample<EmployeeRow>(1, 1), {
+  InsertRow(db_, Set(Sample<EmployeeRow>(1, 1), {
       {"full_day", u"1,0"_s}, {"all_days", u"2"_s}, {"daily_wages", u"1234,5"_s}, {"payed_contr", {}}}));
   for (const char* id : {"x", "y"}) {
-    InsertRow(db_, Set(testing::Sample<EmployeeRow>(1, 2), {
+    InsertRow(db_, Set(Sample<EmployeeRow>(1, 2), {
         {"insured_id", QString::fromLatin1(id)}, {"full_day", u"0"_s}, {"all_days", u"0"_s}}));
   }
 
@@ -143,7 +139,7 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
   const QString from = u"01 /"_s + V("from_year", "1.0");
   const QString to = V("to_month", "1.0") + u'/' + V("to_year", "1.0");
   const QString ame = V("emp_employer_id", "1.0"), afm = V("taxation_number", "1.0");
-  const QStringList page1 = FourEmpty() + QStringList{
+  const QStringList page1 = QStringList(4) + QStringList{
       pt::kPage1 + u"1"_s + pt::kOf + u"3"_s, u""_s, pt::kType + u"02 ΕΚΤΑΚΤΗ "_s, u""_s,
       pt::kBranch + V("orgbra_branch_code", "1.0") + u' ' + V("orgbra_branch_descr", "1.0"),
       pt::kEmployer + V("employer_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -171,26 +167,26 @@ TEST_F(PagesTest, CommonDeclarationOfAQuarterWithItsStatementPage) {
       {pt::kSubsidy, V("subsidy_amount")}, {pt::kSubsidyPercent, V("emp_subsidy_percent")},
       {pt::kSubsidyAmount, V("emp_subsidy_amount")}, {pt::kPayedContr, u"0,00"_s}});
   EXPECT_EQ(pages[0], page1);
-  EXPECT_EQ(pages[1].mid(0, 9), (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[1].mid(0, 9), (QStringList(4) + QStringList{
       pt::kPageN + u"2"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kPageAfm + afm,
       pt::kFrom + from + pt::kPageTo + to, u""_s}));
-  EXPECT_EQ(pages[2], (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[2], (QStringList(4) + QStringList{
       pt::kLastPage + u"3"_s + pt::kOf + u"3"_s, u""_s, pt::kPageAme + ame + pt::kLastAfm + afm,
       pt::kFrom + from + pt::kPageTo + to, u""_s, u""_s, u""_s, u""_s, u""_s, u""_s,
       pt::kCessation, pt::kCessation2, u""_s} + Stop(V("stop_date", "1.0"))));
 }
 
 TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
-  InsertRow(db_, Set(testing::Sample<ConEmployerRow>(1), {
+  InsertRow(db_, Set(Sample<ConEmployerRow>(1), {
       {"declare_type", u" 02"_s}, {"ovt_code", u"45"_s}, {"sum_salaries", u"1234,5"_s},
       {"sum_days", u"31"_s}, {"sum_contr", {}}}));
-  InsertRow(db_, Set(testing::Sample<ConEmployeeRow>(1, 1), {
+  InsertRow(db_, Set(Sample<ConEmployeeRow>(1, 1), {
       {"married_status", u"1"_s}, {"daily_wages", u"1234,5"_s}}));
 
   const std::vector<QStringList> pages = Print(Kind::Construction, Printout::kDeclaration);
   ASSERT_EQ(pages.size(), 2u);
   const QString month = V("from_month", "1.0") + u'/' + V("from_year", "1.0");
-  const QStringList page1 = FourEmpty() + QStringList{
+  const QStringList page1 = QStringList(4) + QStringList{
       pt::kConPage1 + u"1"_s + pt::kOf + u"2"_s, u""_s, pt::kType + u"02 "_s + pt::kExtraordinary,
       u""_s, pt::kBranch + u"045 "_s + V("ovt_name", "1.0"),
       pt::kEmployer + V("emp_name", "1.0") + u' ' + V("emp_first_name", "1.0") + u' ' + V("emp_father_name", "1.0"),
@@ -216,7 +212,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
       {pt::kInsuredContr, V("insured_contr")}, {pt::kEmployerContr, V("employer_contr")},
       {pt::kTotalContr, V("total_contr")}}) + QStringList{u""_s};
   EXPECT_EQ(pages[0], page1);
-  EXPECT_EQ(pages[1], (FourEmpty() + QStringList{
+  EXPECT_EQ(pages[1], (QStringList(4) + QStringList{
       pt::kLastPage + u"2"_s + pt::kOf + u"2"_s, u""_s,
       pt::kConPageAme + V("ame", "1.0") + pt::kConPageAmoe + V("amoe", "1.0") + pt::kConPageAfm + V("afm", "1.0"),
       pt::kConPageMonth + month, u""_s, u""_s, u""_s, u""_s, u""_s, pt::kConCessation, pt::kCessation2,
@@ -227,7 +223,7 @@ TEST_F(PagesTest, ConstructionDeclarationWithItsStatementPage) {
 // Lines stored against the reading order, printed in it: the first page holds
 // one block, every later one two, and an extraordinary declaration ends with
 // its statement page.
-TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
+TEST_F(PagesTest, TwoBlocksToAPageAfterTheFirst) {
   const struct {
     Kind kind;
     int lines;
@@ -243,19 +239,21 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
   for (const auto& p : cases) {
     SCOPED_TRACE(::testing::Message() << p.lines << p.type);
     const bool common = p.kind == Kind::Common;
-    TempStore store;
-    FakeDialogs dialogs;
-    Database& db = store.Open();
-    store.vars.DeclarationId = 1;
-    common ? InsertRow(db, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
-           : InsertRow(db, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
+    db_.Exec(
+        "DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES; DELETE FROM QOR_CON_EMPLOYERS; "
+        "DELETE FROM QOR_CON_EMPLOYEES");
+    common ? InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", p.type}}))
+           : InsertRow(db_, Filled<ConEmployerRow>(0, {{"declare_type", p.type}}));
+    QStringList stored;  // the register numbers in reading order
     for (int n = p.lines; n >= 1; --n) {
       const QString id = QString::number(100 + n);
-      common ? InsertRow(db, Filled<EmployeeRow>(
-                                 n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
-             : InsertRow(db, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
+      stored.prepend(id);
+      // clang-format off
+      common ? InsertRow(db_, Filled<EmployeeRow>(n, {{"insured_id", id}, {"full_day", "0"}, {"all_days", "0"}}))
+             : InsertRow(db_, Filled<ConEmployeeRow>(n, {{"insured_id", id}}));
+      // clang-format on
     }
-    const std::vector<QStringList> pages = PagesOf(store, dialogs, p.kind, Printout::kDeclaration);
+    const std::vector<QStringList> pages = Print(p.kind, Printout::kDeclaration);
     ASSERT_EQ(pages.size(), p.blocks.size());
     const QString count = pt::kOf + QString::number(pages.size());
     const int first = common ? 21 : 24, later = 9, block = common ? 31 : 29;
@@ -264,8 +262,8 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
       const QStringList& page = pages[k];
       EXPECT_TRUE(page[4].endsWith(QString::number(k + 1) + count)) << page[4].toStdString();
       if (p.blocks[k] < 0) {
-        EXPECT_EQ(page.size(), common ? 34 : 33);
-        EXPECT_EQ(page.filter(pt::kStopStatement1).size(), 1);
+        EXPECT_EQ(std::pair(page.size(), page.filter(pt::kStopStatement1).size()),
+                  std::pair(qsizetype(common ? 34 : 33), qsizetype(1)));
         continue;
       }
       QStringList blocks;  // the register number of each block
@@ -278,22 +276,19 @@ TEST(Paging, TwoBlocksToAPageAfterTheFirst) {
       const int gaps = k == 0 && common ? -2 * p.blocks[k] : 0;
       EXPECT_EQ(page.size(), (k == 0 ? first : later) + p.blocks[k] * block + gaps) << k;
     }
-    QStringList sorted = ids;
-    sorted.sort();
-    EXPECT_EQ(ids, sorted);
-    EXPECT_EQ(ids.size(), p.lines);
+    EXPECT_EQ(ids, stored);
   }
 }
 
 // A store fault or a printer failure ends the printout: the problem told with
 // its number and text once the pointer is back, the document killed.
-TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
-  const auto header = [](Database& db, bool tax_number) {
-    InsertRow(db,
-              Filled<EmployerRow>(0, {{"declaration_type", "01"},
-                                      {"emp_employer_id", "1"},
-                                      {"taxation_number", tax_number ? Text(u"2"_s) : Text()}}));
-  };
+// The pages of a printout that was killed, never ended; -1 otherwise.
+int Killed(const CapturePrinter& printer) {
+  const bool killed = printer.calls.back() == u"kill" && !printer.calls.contains(u"end"_s);
+  return killed ? int(printer.pages.size()) : -1;
+}
+
+TEST_F(PagesTest, FaultsEndThePrintoutWithTheProblemMessage) {
   const auto line = [](Database& db, int n, const char* full_day) {
     InsertRow(db, Filled<EmployeeRow>(n, {{"full_day", full_day}, {"all_days", "1"}}));
   };
@@ -307,48 +302,40 @@ TEST(PrintoutFaults, EndThePrintoutWithTheProblemMessage) {
     int pages_printed;
   } cases[] = {
       {Printout::kSummary, [](Database&) {}, -1, u"0"_s + description + pt::kNoHeader, 0},
-      {Printout::kSummary, [&](Database& db) { header(db, false); }, -1,
+      {Printout::kSummary, [&](Database& db) { Header(db, false); }, -1,
        u"20"_s + description + pt::kNoValue.arg(u"Α.Φ.Μ."_s), 0},
-      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, ""); },
+      {Printout::kDeclaration, [&](Database& db) { Header(db), line(db, 1, "1"), line(db, 2, ""); },
        -1, u"20"_s + description + pt::kNotANumber.arg(QString(), pt::kFullDay.trimmed().chopped(1), u"2"_s), 1},
-      {Printout::kDeclaration, [&](Database& db) { header(db, true), line(db, 1, "1"), line(db, 2, "1"); },
+      {Printout::kDeclaration, [&](Database& db) { Header(db), line(db, 1, "1"), line(db, 2, "1"); },
        3, u"28"_s + description + u"No space left on device"_s, 1},
   };
   // clang-format on
   for (const auto& f : cases) {
     SCOPED_TRACE(f.code_and_description.toStdString());
-    TempStore store;
+    db_.Exec("DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES");
+    f.store(db_);
     FakeDialogs dialogs;
-    store.vars.DeclarationId = 1;
-    f.store(store.Open());
     CapturePrinter printer;
     printer.fails_at = f.printer_fails_at;
-    EXPECT_FALSE(RunPrintout(store.vars, dialogs, Kind::Common, f.printout, printer));
+    EXPECT_FALSE(RunPrintout(store_.vars, dialogs, Kind::Common, f.printout, printer));
     ASSERT_EQ(dialogs.messages.size(), 1u);
-    const testing::ShownMessage& shown = dialogs.messages[0];
-    EXPECT_EQ(shown.text, pt::kProblem + u"\r\nΚωδικός λάθους: "_s + f.code_and_description);
-    EXPECT_EQ(shown.title, u"Ξ.Ρ.Φ."_s);
-    EXPECT_FALSE(shown.busy);
+    const ShownMessage& shown = dialogs.messages[0];
+    EXPECT_EQ(std::tuple(shown.text, shown.title, shown.busy),
+              std::tuple(pt::kProblem + u"\r\nΚωδικός λάθους: "_s + f.code_and_description,
+                         u"Ξ.Ρ.Φ."_s, false));
     EXPECT_EQ(dialogs.busy_calls, (std::vector{true, false}));
-    EXPECT_EQ(printer.calls.back(), u"kill"_s);
-    EXPECT_EQ(printer.calls.count(u"end"_s), 0);
-    EXPECT_EQ(printer.pages.size(), size_t(f.pages_printed));
+    EXPECT_EQ(Killed(printer), f.pages_printed);
   }
 }
 
 TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsIt) {
-  InsertRow(db_, Filled<EmployerRow>(0, {{"declaration_type", "01"},
-                                         {"emp_employer_id", "1"},
-                                         {"taxation_number", "2"}}));
+  Header(db_);
   InsertRow(db_,
             Filled<EmployeeRow>(1, {{"insured_id", "1"}, {"full_day", "0"}, {"all_days", "1"}}));
   PrintDeclaration(store_.vars, dialogs_, Kind::Common);
-  ASSERT_EQ(dialogs_.questions.size(), 1u);
-  EXPECT_EQ(dialogs_.questions[0].text, pt::kAskAll);
-  EXPECT_EQ(dialogs_.questions[0].title, u"Ξ.Ρ.Φ."_s);
-  EXPECT_EQ(dialogs_.last_style, AskStyle::Plain);
-  EXPECT_TRUE(dialogs_.printers.empty());
-  EXPECT_TRUE(dialogs_.busy_calls.empty());
+  EXPECT_EQ(FakeDialogs::Told(dialogs_.questions), (QStringList{u"Ξ.Ρ.Φ."_s, pt::kAskAll}));
+  EXPECT_EQ(std::tuple(dialogs_.last_style, dialogs_.printers.size(), dialogs_.busy_calls.size()),
+            std::tuple(AskStyle::Plain, 0u, 0u));
 
   dialogs_.answers = {true};
   PrintDeclaration(store_.vars, dialogs_, Kind::Common);
@@ -362,9 +349,9 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsI
   // A printout the user stops is abandoned at once and nothing is told; the
   // preview offers it under the declaration's name.
   for (int n = 2; n <= 5; ++n) {
-    InsertRow(db_,
-              Filled<EmployeeRow>(
-                  n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
+    // clang-format off
+    InsertRow(db_, Filled<EmployeeRow>(n, {{"insured_id", QString::number(n)}, {"full_day", "0"}, {"all_days", "1"}}));
+    // clang-format on
   }
   FakeDialogs dialogs;
   store_.vars.PeriodFrom = u"012026"_s;
@@ -377,11 +364,32 @@ TEST_F(PagesTest, TheDeclarationIsPrintedOnlyWhenTheUserSaysYesAndAStopAbandonsI
   EXPECT_EQ(dialogs.progress, (std::vector<std::pair<qint64, qint64>>{{1, 3}, {2, 3}}));
   EXPECT_TRUE(dialogs.messages.empty());
   EXPECT_EQ(dialogs.busy_calls, (std::vector{true, false}));
-  const CapturePrinter& printer = dialogs.printers.at(0);
-  EXPECT_EQ(printer.pages.size(), 2u);
-  EXPECT_EQ(printer.calls.back(), u"kill"_s);
-  EXPECT_EQ(printer.calls.count(u"end"_s), 0);
+  EXPECT_EQ(Killed(dialogs.printers.at(0)), 2);
+}
+
+TEST(PageFileTest, GivesBackAnyPageAsItWasPrinted) {
+  PageFile file;
+  file.SetFontSize(u"10"_s);
+  file.SetFontName(u"Courier New Greek"_s);
+  file.Print(u"ΑΒΓ\r\n  x  "_s);
+  file.Print(u"δεύτερο"_s);  // on the same page
+  file.NewPage();
+  file.NewPage();  // a page left blank
+  for (int page = 3; page <= 1000; ++page) {
+    if (page > 3) file.NewPage();
+    file.Print(QString(page, u'Ω') + QString::number(page));
+  }
+  EXPECT_EQ(file.Count(), 999);  // the last one is still being printed
+  file.EndDoc();
+  ASSERT_EQ(file.Count(), 1000);
+  EXPECT_EQ(file.Page(999), QString(1000, u'Ω') + u"1000"_s);
+  EXPECT_EQ(file.Page(0), u"ΑΒΓ\r\n  x  \r\nδεύτερο"_s);
+  EXPECT_EQ(file.Page(1), QString());
+  EXPECT_EQ(file.Page(499), QString(500, u'Ω') + u"500"_s);
+  EXPECT_EQ(file.FontSize() + u' ' + file.FontName(), u"10 Courier New Greek"_s);
+  file.KillDoc();
+  EXPECT_EQ(file.Count(), 0);
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

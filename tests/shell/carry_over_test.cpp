@@ -12,18 +12,12 @@
 #include "support/fakes.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
-using testing::DumpTable;
-using testing::LinesOf;
-using testing::Sample;
-using testing::SampleLine;
-using testing::ValuesOf;
 
-constexpr int kPrevious = 5;
-constexpr int kNew = 6;
+constexpr int kPrevious = 5, kNew = 6;
 
 class CarryOver : public ::testing::Test {
  protected:
@@ -34,11 +28,11 @@ class CarryOver : public ::testing::Test {
   // Runs the carry-over, which must succeed silently and leave no scratch.
   void ExpectCopied(Kind kind, int copied) {
     const CarryOverOutcome outcome = CarryOverLines(store_.vars, dialogs_, kind);
-    EXPECT_TRUE(outcome.ok);
-    EXPECT_EQ(outcome.copied, copied);
+    EXPECT_EQ(std::pair(outcome.ok, outcome.copied), std::pair(true, copied));
     EXPECT_TRUE(dialogs_.messages.empty()) << dialogs_.LastMessage().toStdString();
-    EXPECT_TRUE(DumpTable(db_, "QOR_TEMP_EMPLOYEES").empty());
-    EXPECT_TRUE(DumpTable(db_, "QOR_CON_TEMP_EMPLOYEES").empty());
+    EXPECT_EQ(DumpTable(db_, "QOR_TEMP_EMPLOYEES").size() +
+                  DumpTable(db_, "QOR_CON_TEMP_EMPLOYEES").size(),
+              0u);
   }
   // Three common lines of the previous declaration, stored out of reading
   // order, the second with an empty daily wage. Answers them in reading order.
@@ -51,9 +45,9 @@ class CarryOver : public ::testing::Test {
     return {lines[1], lines[2], lines[0]};
   }
 
-  testing::TempStore store_;
+  TempStore store_;
   Database& db_ = store_.Open();
-  testing::FakeDialogs dialogs_;
+  FakeDialogs dialogs_;
 };
 
 // Each kind's lines, every column, under the new id, once; only common lines
@@ -87,24 +81,22 @@ TEST_F(CarryOver, CopiesTheLinesOfItsKindUnderTheNewIdOnce) {
 TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {
   AddCommonLines();
   InsertRow(db_, Sample<EmployeeRow>(40, 1));
-  db_.Exec("INSERT INTO QOR_TEMP_EMPLOYEES SELECT * FROM QOR_EMPLOYEES WHERE id = 40");
-  db_.Exec(
-      "CREATE TRIGGER fail BEFORE INSERT ON QOR_EMPLOYEES WHEN NEW.id = 6 "
-      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format off
+  db_.Exec("INSERT INTO QOR_TEMP_EMPLOYEES SELECT * FROM QOR_EMPLOYEES WHERE id = 40; CREATE TRIGGER fail "
+           "BEFORE INSERT ON QOR_EMPLOYEES WHEN NEW.id = 6 BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format on
   const auto lines = DumpTable(db_, "QOR_EMPLOYEES");
   const auto scratch = DumpTable(db_, "QOR_TEMP_EMPLOYEES");
 
   const CarryOverOutcome outcome = CarryOverLines(store_.vars, dialogs_, Kind::Common);
 
-  EXPECT_FALSE(outcome.ok);
-  EXPECT_EQ(outcome.copied, 0);
+  EXPECT_EQ(std::tuple(outcome.ok, outcome.copied, db_.InTransaction()),
+            std::tuple(false, 0, false));
   EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYEES"), lines);
   EXPECT_EQ(DumpTable(db_, "QOR_TEMP_EMPLOYEES"), scratch);
-  EXPECT_FALSE(db_.InTransaction());
-  ASSERT_EQ(dialogs_.messages.size(), 1u);
-  EXPECT_EQ(dialogs_.messages[0].title, texts::kAppTitle);
-  EXPECT_EQ(dialogs_.messages[0].text,
-            ErrorMessage(texts::kCarryOverFailed, {SQLITE_CONSTRAINT, u"injected"_s}));
+  EXPECT_EQ(FakeDialogs::Told(dialogs_.messages),
+            (QStringList{texts::kAppTitle, ErrorMessage(texts::kCarryOverFailed,
+                                                        {SQLITE_CONSTRAINT, u"injected"_s})}));
   EXPECT_EQ(dialogs_.busy_calls, (std::vector<bool>{true, false}));
 
   // Nothing half-copied stands in the way of the next save.
@@ -118,20 +110,19 @@ TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {
 class PayrollMove : public CarryOver {
  protected:
   void Prepare(const QString& periods, const QString& months, int id = kNew) {
-    QString sql =
-        u"DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES; INSERT INTO "
-        u"QOR_EMPLOYERS (id, from_month, from_year, to_month, to_year) VALUES (5, "
-        u"'%1', '%2', '%3', '%4');"_s.arg(periods.left(2), periods.mid(2, 4), periods.mid(7, 2),
-                                          periods.mid(9, 4));
+    db_.Exec("DELETE FROM QOR_EMPLOYERS; DELETE FROM QOR_EMPLOYEES");
+    // clang-format off
+    auto header = Filled<EmployerRow>(0, {{"from_month", periods.left(2)}, {"from_year", periods.mid(2, 4)},
+                                          {"to_month", periods.mid(7, 2)}, {"to_year", periods.mid(9, 4)}});
+    header.id = kPrevious;
+    InsertRow(db_, header);
     int row = 0;
     for (const QString& month : months.split(u' ')) {
-      sql +=
-          u"INSERT INTO QOR_EMPLOYEES (id, row_num, sal_month, sal_year) VALUES (%1, %2, '%3');"_s
-              .arg(id)
-              .arg(++row)
-              .arg(QString(month).replace(u'/', u"', '"_s));
+      auto line = Filled<EmployeeRow>(++row, {{"sal_month", month.section(u'/', 0, 0)}, {"sal_year", month.section(u'/', 1)}});
+      line.id = id;
+      InsertRow(db_, line);
     }
-    db_.Exec(sql.toStdString());
+    // clang-format on
     store_.vars.PeriodFrom = periods.mid(14, 6);
     store_.vars.PeriodTo = periods.right(6);
   }
@@ -151,14 +142,15 @@ class PayrollMove : public CarryOver {
 TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
   // previous and new period, the lines' months, the answer, the months after
   // ("-": nothing asked)
+  // clang-format off
   const char* cases[] = {
-      "012026-032026 042026-062026|01/2026 02/2026 03/2026 12/2025 /|yes|04/2026 05/2026 06/2026 "
-      "12/2025 /",
+      "012026-032026 042026-062026|01/2026 02/2026 03/2026 12/2025 /|yes|04/2026 05/2026 06/2026 12/2025 /",
       "012026-032026 042026-062026|3/2026|no|3/2026",
       "032026-032026 042026-042026|3/2026 02/2026|yes|04/2026 02/2026",
       "102025-122025 012026-012026|10/2025 12/2025|yes|01/2026 01/2026",
       "122025-122025 012026-032026|12/2025|yes|01/2026",
       "012026-032026 012026-032026|01/2026|yes|-"};
+  // clang-format on
   for (const char* text : cases) {
     const QStringList c = QString::fromUtf8(text).split(u'|');
     Prepare(c[0], c[1]);
@@ -172,9 +164,10 @@ TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
 
   Prepare(u"012026-032026 042026-062026"_s, u"01/2026 03/2026 12/2025"_s);
   OfferPayrollMove(store_.vars, dialogs_, Kind::Construction);
-  db_.Exec(
-      "CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' "
-      "BEGIN SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format off
+  db_.Exec("CREATE TRIGGER fail BEFORE UPDATE ON QOR_EMPLOYEES WHEN NEW.sal_month = '06' BEGIN "
+           "SELECT RAISE(ABORT, 'injected'); END");
+  // clang-format on
   dialogs_.answers = {true};
   OfferPayrollMove(store_.vars, dialogs_, Kind::Common);
   ASSERT_EQ(dialogs_.questions.size(), 1u);
@@ -192,7 +185,7 @@ TEST_F(PayrollMove, CopiedMonthsMoveIntoTheNewPeriodOnYes) {
 // The header save asks once the header is stored and shown in the view
 // state, after the message that says so.
 TEST_F(PayrollMove, TheHeaderSaveAsksAfterItsMessage) {
-  struct Watching : testing::FakeDialogs {
+  struct Watching : FakeDialogs {
     std::function<void()> asked;
     bool Ask(const QString& text, const QString& title, AskStyle style) override {
       asked();
@@ -201,7 +194,7 @@ TEST_F(PayrollMove, TheHeaderSaveAsksAfterItsMessage) {
   } dialogs;
   Prepare(u"012026-032026 042026-062026"_s, u"02/2026"_s, kPrevious);
   store_.vars.CarryOver = true;
-  testing::FakeScreens screens;
+  FakeScreens screens;
   OvtForm1 form(store_.vars, dialogs, screens);
   form.Load();
   dialogs.answers = {true};
@@ -215,4 +208,4 @@ TEST_F(PayrollMove, TheHeaderSaveAsksAfterItsMessage) {
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

@@ -4,23 +4,22 @@
 // that may take over the lines of the highest id of the kind.
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 #include "shell/errors.h"
 #include "shell/start_form.h"
+#include "support/files.h"
 #include "support/rule_chain.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
 using namespace texts;
 
-const QStringList kKindButtons{u"Command1"_s, u"Command2"_s, u"Command3"_s, u"Command4"_s,
-                               u"Command5"_s};
-const QStringList kCommonFields{u"Month1"_s, u"Year1"_s, u"Month2"_s, u"Year2"_s};
+const QStringList kKindButtons = u"Command1 Command2 Command3 Command4 Command5"_s.split(u' ');
+const QStringList kCommonFields = u"Month1 Year1 Month2 Year2"_s.split(u' ');
 const QStringList kConFields{u"ConMonth"_s, u"ConYear"_s};
 const QStringList kFrameButtons{u"OkCmd"_s, u"CancelCmd"_s};
 
@@ -39,24 +38,16 @@ class StartScreen : public ::testing::Test {
       {&StartForm::Command2_Click, &StartForm::Command5_Click},
       {&StartForm::Command1_Click, &StartForm::Command4_Click}};
 
-  // Presses the kind's button and types a period of one month of 2002.
-  void TypePeriod(bool common, bool carry_over, const QString& month) {
-    (form_.*kKind[common][carry_over])();
-    for (const QString& field : common ? kCommonFields : kConFields) {
-      form_.Type(field, field.contains(u"Month"_s) ? month : u"2002"_s);
-    }
-  }
-
-  testing::TempStore store_;
+  TempStore store_;
   Vars& vars_ = store_.vars;
-  testing::FakeDialogs dialogs_;
-  testing::FakeScreens screens_;
+  FakeDialogs dialogs_;
+  FakeScreens screens_;
   StartForm form_{vars_, dialogs_, screens_};
 };
 
 // The store beside the program is opened once, whatever happens to the file
 // afterwards, and closed by Exit.
-TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
+TEST_F(StartScreen, LoadOpensTheStoreOnceKindButtonsOpenTheirPeriodAndExitCloses) {
   ASSERT_TRUE(form_.Load());
   EXPECT_EQ(form_.Title(), kTitleStart + kTitleVersion + QString::number(VEROXIA_VERSION_MAJOR) +
                                u'.' + QString::number(VEROXIA_VERSION_MINOR) + u')');
@@ -65,28 +56,8 @@ TEST_F(StartScreen, LoadOpensTheStoreOnceAndExitClosesIt) {
   EXPECT_TRUE(!dialogs_.busy_calls.empty() && !dialogs_.busy);
   EXPECT_EQ(Where(&Control::visible, kKindButtons + QStringList{u"Frame1"_s}), kKindButtons);
   EXPECT_EQ(form_.ImagePath() + form_.IconPath(), QString());
-
-  const QDir dir(store_.Dir());
-  for (const char* name : {"ovt.gif", "qormain.ico"}) {
-    ASSERT_TRUE(QFile(dir.filePath(QString::fromLatin1(name))).open(QIODevice::WriteOnly));
-  }
-  ASSERT_TRUE(QFile::remove(store_.Path()));
-  StartForm again(vars_, dialogs_, screens_);
-  ASSERT_TRUE(again.Load());
-  EXPECT_EQ(vars_.StoreConnection.get(), first);
-  EXPECT_EQ(QFileInfo(again.ImagePath()), QFileInfo(dir.filePath(u"ovt.gif"_s)));
-  EXPECT_EQ(QFileInfo(again.IconPath()), QFileInfo(dir.filePath(u"qormain.ico"_s)));
-  EXPECT_TRUE(dialogs_.messages.empty() && !screens_.quit_status);
-
-  again.Command3_Click();
-  EXPECT_TRUE(!vars_.StoreOpen && !vars_.StoreConnection);
-  EXPECT_EQ(screens_.quit_status, 0);
-}
-
-// A kind button opens the period fields of its kind in the focus order;
-// Cancel brings the kind buttons back and keeps what was typed and chosen.
-TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
-  ASSERT_TRUE(form_.Load());
+  // A kind button opens the period fields of its kind in the focus order;
+  // Cancel brings the kind buttons back and keeps what was typed and chosen.
   const QStringList all = kKindButtons + kCommonFields + kConFields + kFrameButtons;
   for (const bool common : {true, false}) {
     for (const bool carry_over : {true, false}) {
@@ -110,6 +81,22 @@ TEST_F(StartScreen, KindButtonsOpenTheirPeriodFieldsAndCancelReturns) {
       EXPECT_EQ(vars_.CarryOver, carry_over);
     }
   }
+
+  const QDir dir(store_.Dir());
+  for (const char* name : {"ovt.gif", "qormain.ico"}) {
+    ASSERT_TRUE(WriteFile(dir.filePath(QString::fromLatin1(name)), "x"));
+  }
+  ASSERT_TRUE(QFile::remove(store_.Path()));
+  StartForm again(vars_, dialogs_, screens_);
+  ASSERT_TRUE(again.Load());
+  EXPECT_EQ(vars_.StoreConnection.get(), first);
+  EXPECT_EQ(QFileInfo(again.ImagePath()), QFileInfo(dir.filePath(u"ovt.gif"_s)));
+  EXPECT_EQ(QFileInfo(again.IconPath()), QFileInfo(dir.filePath(u"qormain.ico"_s)));
+  EXPECT_TRUE(dialogs_.messages.empty() && !screens_.quit_status);
+
+  again.Command3_Click();
+  EXPECT_TRUE(!vars_.StoreOpen && !vars_.StoreConnection);
+  EXPECT_EQ(screens_.quit_status, 0);
 }
 
 // The rules of the period in their order, as OK applies them: a fault is told
@@ -124,10 +111,9 @@ TEST_F(StartScreen, OkChecksThePeriodRuleByRule) {
     form_.OkCmd_Click();
     return !screens_.shown.isEmpty() || !dialogs_.busy_calls.empty();
   };
-  using testing::Fixed;
   form_.Command1_Click();
   // clang-format off
-  testing::ExpectRulesInOrder(form_, dialogs_, ok, {
+  ExpectRulesInOrder(form_, dialogs_, ok, {
       {"Month1", u"  "_s, Fixed(kStartMonthBlank), false, u"5"_s},
       {"Month1", u"5"_s, Fixed(kStartMonthLength), true, u"13"_s},
       {"Month1", u"13"_s, Fixed(kStartMonthWrong), true, u"00"_s},
@@ -149,7 +135,7 @@ TEST_F(StartScreen, OkChecksThePeriodRuleByRule) {
   EXPECT_EQ(screens_.shown, QStringList{u"header common"_s});
   form_.CancelCmd_Click();
   form_.Command2_Click();
-  testing::ExpectRulesInOrder(form_, dialogs_, ok, {
+  ExpectRulesInOrder(form_, dialogs_, ok, {
       {"ConMonth", u""_s, Fixed(kStartMonthBlank), false, u"5"_s},
       {"ConMonth", u"5"_s, Fixed(kStartMonthLength), true, u"13"_s},
       {"ConMonth", u"13"_s, Fixed(kStartMonthWrong), true, u"05"_s},
@@ -174,11 +160,10 @@ struct SettleCase {
   const char* name;
   std::vector<std::pair<int, const char*>> stored;  // headers of the kind: id, month of 2002
   bool carry_over;
-  QString month;        // typed, of 2002
-  QString message;      // told, if anything
-  int id;               // the declaration opened; 99 (as before): none
-  bool carried;         // it takes over the lines of id - 1
-  bool broken = false;  // the kind's header table is gone
+  QString month, message;  // typed, of 2002; told, if anything
+  int id;                  // the declaration opened; 99 (as before): none
+  bool carried;            // it takes over the lines of id - 1
+  bool broken = false;     // the kind's header table is gone
 };
 
 // clang-format off
@@ -210,8 +195,8 @@ TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
   Database& db = store_.Open();
   const auto store = [&](bool common_kind, int id, const QString& month) {
     const PeriodTexts period{month, u"2002"_s, month, u"2002"_s};
-    common_kind ? InsertRow(db, testing::SampleHeader<EmployerRow>(id, period))
-                : InsertRow(db, testing::SampleHeader<ConEmployerRow>(id, period));
+    common_kind ? InsertRow(db, SampleHeader<EmployerRow>(id, period))
+                : InsertRow(db, SampleHeader<ConEmployerRow>(id, period));
   };
   store(!common, 7, u"04"_s);
   for (const auto& [id, month] : c.stored) store(common, id, QString::fromLatin1(month));
@@ -222,12 +207,15 @@ TEST_P(Registry, OkOpensTheDeclarationOfThePeriod) {
   vars_.PreviousDeclarationId = 98;
   vars_.PeriodFrom = vars_.PeriodTo = u"left"_s;
 
-  TypePeriod(common, c.carry_over, c.month);
+  (form_.*kKind[common][c.carry_over])();  // a period of one month of 2002
+  for (const QString& field : common ? kCommonFields : kConFields) {
+    form_.Type(field, field.contains(u"Month"_s) ? c.month : u"2002"_s);
+  }
   form_.OkCmd_Click();
 
   const QString message =
       c.broken ? ErrorMessage(kRegistryFailed, 1, kStoreOtherError.arg(1)) : c.message;
-  EXPECT_EQ(testing::FakeDialogs::Told(dialogs_.messages),
+  EXPECT_EQ(FakeDialogs::Told(dialogs_.messages),
             (message.isEmpty() ? QStringList() : QStringList{kAppTitle, message}));
   const bool opened = c.id != 99;
   EXPECT_EQ(vars_.DeclarationId, c.id);
@@ -247,4 +235,4 @@ INSTANTIATE_TEST_SUITE_P(Kinds, Registry,
                                             ::testing::ValuesIn(kSettleCases)));
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

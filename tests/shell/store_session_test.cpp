@@ -21,20 +21,11 @@
 #include "support/files.h"
 #include "support/store_rows.h"
 
-namespace veroxia {
+namespace veroxia::testing {
 namespace {
 
 using namespace Qt::StringLiterals;
 using namespace store_texts;
-
-// Overwrites bytes in the middle of the file, in a page that only a read of
-// the whole store reaches.
-void Damage(const QString& path) {
-  QFile file(path);
-  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-  ASSERT_TRUE(file.seek(file.size() / 2));
-  file.write(QByteArray(16, '\0'));
-}
 
 TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
   using Path = const QString&;  // the store's folder, or the store
@@ -55,10 +46,9 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
          ASSERT_TRUE(gone.waitForStarted());
          const qint64 pid = gone.processId();
          ASSERT_TRUE(gone.waitForFinished());
-         ASSERT_TRUE(testing::WriteFile(store + u".lock"_s, QByteArray::number(pid) + "\nveroxia\n\n"));
+         ASSERT_TRUE(WriteFile(store + u".lock"_s, QByteArray::number(pid) + "\nveroxia\n\n"));
        }, {}, true, true, 1},
-      {"BackupFolderCannotBeMade",
-       [](Path dir, Path) { ASSERT_TRUE(QFile(dir + u"/backups"_s).open(QIODevice::WriteOnly)); },
+      {"BackupFolderCannotBeMade", [](Path dir, Path) { ASSERT_TRUE(WriteFile(dir + u"/backups"_s, "x")); },
        [](Path dir, Path) {
          return kBackupFailed.arg(dir + u"/backups"_s) + u"\r\n"_s + texts::kErrorDescription +
                 kFolderNotWritable + u"\r\n"_s + kChangesGoAhead;
@@ -68,15 +58,16 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
          MakeBackup(*db, store, StorePassword(), QDateTime(QDate(2024, 1, 2), QTime(8, 0)));
          MakeBackup(*db, store, StorePassword(), QDateTime(QDate(2023, 12, 31), QTime(23, 59)));
          db.reset();
-         Damage(store);
+         QFile file(store);  // bytes in a page that only a read of the whole store reaches
+         ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(file.size() / 2));
+         file.write(QByteArray(16, '\0'));
        }, [](Path dir, Path store) {
          return kDamaged.arg(store) + u"\r\n"_s + kBackupsListed.arg(dir + u"/backups"_s) +
                 u"\r\nQorDb-20240102-080000.mdb\r\nQorDb-20231231-235900.mdb\r\n"_s + kRestoreHint;
        }, true, false, 2},
       {"ReadOnlyFile", [](Path, Path store) { QFile::setPermissions(store, QFile::ReadOwner); },
        [](Path, Path store) { return kFileReadOnly.arg(store); }, false, false, 0},
-      {"ReadOnlyFolder",
-       [](Path dir, Path) { QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner); },
+      {"ReadOnlyFolder", [](Path dir, Path) { QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner); },
        [](Path dir, Path) { return kFolderReadOnly.arg(dir); }, false, false, 0},
       {"HeldByAnotherProgram",
        [&](Path, Path store) { ASSERT_EQ(other_program.emplace(store).Take(), StoreLock::Outcome::kHeld); },
@@ -85,20 +76,20 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
-    testing::TempStore store;
-    testing::AddLines(store.Open(), Kind::Common, 1, 3000);
+    TempStore store;
+    AddLines(store.Open(), Kind::Common, 1, 3000);
     store.vars.StoreConnection.reset();
     store.vars.StoreOpen = false;
     c.make(store.Dir(), store.Path());
-    const QByteArray before = testing::FileBytes(store.Path());
-    testing::FakeDialogs dialogs;
+    const QByteArray before = FileBytes(store.Path());
+    FakeDialogs dialogs;
     int ended = 0;
 
     EXPECT_EQ(OpenStore(store.vars, dialogs, [&] { ++ended; }), c.opens);
     int written = 0;
     for (int change = 0; change < 2 && store.vars.StoreOpen; ++change) {
       try {
-        testing::AddLines(*store.vars.StoreConnection, Kind::Common, 2 + change, 1);
+        AddLines(*store.vars.StoreConnection, Kind::Common, 2 + change, 1);
         ++written;
       } catch (const StoreError& error) {
         EXPECT_EQ(error.code, SQLITE_CORRUPT);
@@ -110,7 +101,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     QFile::setPermissions(store.Path(), QFile::ReadOwner | QFile::WriteOwner);
 
     EXPECT_EQ(written, c.writes ? 2 : 0);
-    EXPECT_EQ(testing::FakeDialogs::Told(dialogs.messages),
+    EXPECT_EQ(FakeDialogs::Told(dialogs.messages),
               (c.message ? QStringList{texts::kAppTitle, c.message(store.Dir(), store.Path())}
                          : QStringList()));
     EXPECT_EQ(ended, c.opens && !c.writes ? 1 : 0);
@@ -118,8 +109,8 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
     EXPECT_EQ(made.size(), c.backups);
     // A refused or damaged store is never written to; the backup was made
     // before the first change reached the store.
-    EXPECT_TRUE(c.writes || testing::FileBytes(store.Path()) == before);
-    EXPECT_TRUE(!c.writes || c.backups != 1 || testing::CommonLinesIn(made.first()) == 3000);
+    EXPECT_TRUE(c.writes || FileBytes(store.Path()) == before);
+    EXPECT_TRUE(!c.writes || c.backups != 1 || CommonLinesIn(made.first()) == 3000);
     EXPECT_FALSE(QFileInfo::exists(store.Path() + u".lock"_s));
   }
 }
@@ -135,36 +126,31 @@ TEST(StoreSession, LeftoversOfABrokenBackupOrRestoreGoAtTheNextStartOrRestore) {
                            u"QorDb.mdb.restored"_s};
   const struct {
     const char* name;
-    std::function<void(testing::TempStore& store, const QString& backup)> next;
+    std::function<void(TempStore& store, const QString& backup)> next;
   } nexts[] = {
-      {"Start",
-       [](testing::TempStore& store, const QString&) {
-         testing::FakeDialogs dialogs;
-         EXPECT_TRUE(OpenStore(store.vars, dialogs));
-         EXPECT_TRUE(CloseStore(store.vars, dialogs));
-       }},
-      {"Restore",
-       [](testing::TempStore& store, const QString& backup) {
-         RestoreStore(store.Path(), backup, StorePassword(), QDateTime::currentDateTime());
-       }},
+      // clang-format off
+      {"Start", [](TempStore& store, const QString&) {
+         FakeDialogs dialogs;
+         EXPECT_TRUE(OpenStore(store.vars, dialogs) && CloseStore(store.vars, dialogs)); }},
+      {"Restore", [](TempStore& store, const QString& backup) {
+         RestoreStore(store.Path(), backup, StorePassword(), QDateTime::currentDateTime()); }},
+      // clang-format on
   };
   for (const auto& next : nexts) {
     SCOPED_TRACE(next.name);
-    testing::TempStore store;
+    TempStore store;
     const QString backup = MakeBackup(store.Open(), store.Path(), StorePassword(),
                                       QDateTime(QDate(2024, 1, 1), QTime(9, 0)));
     store.vars.StoreConnection.reset();
     store.vars.StoreOpen = false;
     for (const QString& name : leftovers + others) {
-      ASSERT_TRUE(testing::WriteFile(store.Dir() + u'/' + name, "x"));
+      ASSERT_TRUE(WriteFile(store.Dir() + u'/' + name, "x"));
     }
     EXPECT_EQ(ListBackups(store.Path()), QStringList{backup});
     next.next(store, backup);
-    for (const QString& name : leftovers) {
-      EXPECT_FALSE(QFileInfo::exists(store.Dir() + u'/' + name)) << name.toStdString();
-    }
-    for (const QString& name : others) {
-      EXPECT_TRUE(QFileInfo::exists(store.Dir() + u'/' + name)) << name.toStdString();
+    for (const QString& name : leftovers + others) {
+      EXPECT_EQ(QFileInfo::exists(store.Dir() + u'/' + name), others.contains(name))
+          << name.toStdString();
     }
   }
 }
@@ -176,32 +162,27 @@ TEST(StoreSession, LeftoversOfABrokenBackupOrRestoreGoAtTheNextStartOrRestore) {
 TEST(StoreSession, AWriteBackThatFailsAtCloseIsToldAndLosesNothing) {
   for (const bool reader_holds : {false, true}) {
     SCOPED_TRACE(reader_holds);
-    testing::TempStore store;
-    testing::FakeDialogs dialogs;
+    TempStore store;
+    FakeDialogs dialogs;
     ASSERT_TRUE(OpenStore(store.vars, dialogs));
-    testing::AddLines(*store.vars.StoreConnection, Kind::Common, 1, 1);
+    AddLines(*store.vars.StoreConnection, Kind::Common, 1, 1);
     auto reader = Database::OpenReadOnly(store.Path(), StorePassword());
     Statement& reading = reader->Prepare("SELECT id FROM QOR_EMPLOYEES");
     ASSERT_TRUE(reading.Next());
     if (!reader_holds) reading.Reset();
-    testing::AddLines(*store.vars.StoreConnection, Kind::Common, 2, 5);
+    AddLines(*store.vars.StoreConnection, Kind::Common, 2, 5);
 
     EXPECT_EQ(CloseStore(store.vars, dialogs), !reader_holds);
-    if (reader_holds) {
-      ASSERT_EQ(dialogs.messages.size(), 1u);
-      EXPECT_EQ(dialogs.messages[0].text, kWriteBackFailed.arg(store.Path()) + u"\r\n"_s +
-                                              texts::kErrorDescription + texts::kStoreInUse);
-    } else {
-      EXPECT_TRUE(dialogs.messages.empty());
-      EXPECT_EQ(QFileInfo(store.Path() + u"-wal"_s).size(), 0);
-    }
+    EXPECT_EQ(dialogs.messages.size(), reader_holds ? 1u : 0u);
+    EXPECT_EQ(dialogs.LastMessage(), reader_holds
+                                         ? kWriteBackFailed.arg(store.Path()) + u"\r\n"_s +
+                                               texts::kErrorDescription + texts::kStoreInUse
+                                         : QString());
+    EXPECT_TRUE(reader_holds || QFileInfo(store.Path() + u"-wal"_s).size() == 0);
     reader.reset();
-    const auto db = Database::Open(store.Path(), StorePassword());
-    Statement& count = db->Prepare("SELECT count(*) FROM QOR_EMPLOYEES");
-    ASSERT_TRUE(count.Next());
-    EXPECT_EQ(count.Int(0), 6);
+    EXPECT_EQ(CommonLinesIn(store.Path()), 6u);
   }
 }
 
 }  // namespace
-}  // namespace veroxia
+}  // namespace veroxia::testing

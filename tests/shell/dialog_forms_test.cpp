@@ -1,15 +1,22 @@
 // The directory dialog: which directory it hands back, and the drive that
 // cannot be read; which mounted volumes its drive list offers, in which order
-// and by which name.
+// and by which name. The search dialog: which key it hands back, or why it
+// stays. A report saved as text, and the names a declaration's files get.
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 
+#include "lines/texts.h"
 #include "shell/dir_form.h"
 #include "shell/drives.h"
+#include "shell/file_names.h"
+#include "shell/report.h"
+#include "shell/search_form.h"
 #include "shell/texts.h"
 #include "support/fakes.h"
+#include "support/files.h"
+#include "support/printers.h"
 
 namespace veroxia::testing {
 namespace {
@@ -23,14 +30,11 @@ QString Shown(const QList<Drive>& drives) {
 }
 
 TEST(Drives, RemovableByLabelThenHomeThenRootAndThePathsDriveIsTheLongestRoot) {
-  const QList<Volume> volumes = {{u"/"_s, {}},
-                                 {u"/boot/efi"_s, u"EFI"_s},
-                                 {u"/run/media/u/X"_s, u"X"_s},
-                                 {u"/media/u/S"_s, u"S"_s},
-                                 {u"/mnt"_s, {}},
-                                 {u"/media/u/X2"_s, u"X"_s},
-                                 {u"/mediax"_s, u"M"_s},
-                                 {u"/mnt/a"_s, u"/"_s}};
+  // clang-format off
+  const QList<Volume> volumes = {{u"/"_s, {}}, {u"/boot/efi"_s, u"EFI"_s}, {u"/run/media/u/X"_s, u"X"_s},
+                                 {u"/media/u/S"_s, u"S"_s}, {u"/mnt"_s, {}}, {u"/media/u/X2"_s, u"X"_s},
+                                 {u"/mediax"_s, u"M"_s}, {u"/mnt/a"_s, u"/"_s}};
+  // clang-format on
   EXPECT_EQ(Shown(DrivesOf(volumes, u"/home/u/"_s)),
             u"S=/media/u/S /media/u/X2=/media/u/X2 /mnt=/mnt /mnt/a=/mnt/a "
             "/run/media/u/X=/run/media/u/X /home/u=/home/u /=/"_s);
@@ -70,22 +74,18 @@ TEST(DirDialog, HandsBackTheOpenedDirectory) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.steps.join(u' ').toStdString());
     FakeDialogs dialogs;
+    // clang-format off
     DirForm form(home + u"/app/"_s, dialogs, [&home] {
-      return QList<Drive>{{u"/"_s, u"/"_s},
-                          {u"STICK"_s, home + u"/stick"_s},
-                          {u"GONE"_s, home + u"/gone"_s},
-                          {u"home"_s, home}};
+      return QList<Drive>{{u"/"_s, u"/"_s}, {u"STICK"_s, home + u"/stick"_s}, {u"GONE"_s, home + u"/gone"_s}, {u"home"_s, home}};
     });
+    // clang-format on
     form.Load();
     EXPECT_EQ(form.IconPath(), home + u"/app/qormain.ico"_s);
     for (const QString& step : c.steps) {
       const QString what = step.section(u':', 0, 0), value = step.section(u':', 1);
       if (what == u"open" || what == u"highlight") form.HighlightDirectory(home + value);
       if (what == u"open") form.OpenHighlighted();
-      if (what == u"drive") {
-        form.Type(u"Drive1"_s, value);
-        form.Drive1_Change();
-      }
+      if (what == u"drive") form.Type(u"Drive1"_s, value), form.Drive1_Change();
       if (what == u"cancel") form.Command2_Click();
       if (what == u"close") form.QueryClose();
     }
@@ -99,7 +99,7 @@ TEST(DirDialog, HandsBackTheOpenedDirectory) {
               (c.answer == u"-" ? std::vector<bool>{false} : std::vector<bool>{false, true}));
   }
   EXPECT_EQ(DirForm::FocusOrder(),
-            QString(u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s).split(u' '));
+            u"Dir1 Drive1 PathTxt Command1 NewDirCmd Command2"_s.split(u' '));
 }
 
 // In the program's directory app/, which holds out/ and a file "note": a
@@ -109,15 +109,13 @@ TEST(DirDialog, GoesToATypedPathAndMakesANewFolder) {
   const struct {
     QString step, path, message;  // the opened directory below home; %1 the typed text
   } cases[] = {
-      {u"go: out "_s, u"/app/out"_s, {}},
-      {u"go:~/stick"_s, u"/stick"_s, {}},
-      {u"go:nowhere"_s, u"/app"_s, texts::kDirPathUnreadable},
-      {u"go:note"_s, u"/app"_s, texts::kDirPathUnreadable},
-      {u"new: made "_s, u"/app/made"_s, {}},
-      {u"new:out"_s, u"/app"_s, texts::kDirFolderExists},
-      {u"new:a/b"_s, u"/app"_s, texts::kDirFolderSeparator},
-      {u"new:  "_s, u"/app"_s, texts::kDirFolderNoName},
+      // clang-format off
+      {u"go: out "_s, u"/app/out"_s, {}}, {u"go:~/stick"_s, u"/stick"_s, {}},
+      {u"go:nowhere"_s, u"/app"_s, texts::kDirPathUnreadable}, {u"go:note"_s, u"/app"_s, texts::kDirPathUnreadable},
+      {u"new: made "_s, u"/app/made"_s, {}}, {u"new:out"_s, u"/app"_s, texts::kDirFolderExists},
+      {u"new:a/b"_s, u"/app"_s, texts::kDirFolderSeparator}, {u"new:  "_s, u"/app"_s, texts::kDirFolderNoName},
       {u"new"_s, u"/app"_s, {}},
+      // clang-format on
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.step.toStdString());
@@ -149,6 +147,79 @@ TEST(DirDialog, GoesToATypedPathAndMakesANewFolder) {
     EXPECT_EQ(form.FocusedField(),
               failed ? u"PathTxt"_s : (c.path == u"/app" ? QString() : u"Dir1"_s));
   }
+}
+
+TEST(SearchDialog, HandsBackOneKeyOrStaysOnTheNumber) {
+  const struct {
+    QString surname, number;
+    QString message;  // empty: the dialog closes with the key below
+    SearchAnswer answer;
+  } cases[] = {
+      {u"πάπα "_s, u" "_s, {}, {u"πάπα "_s, u"NAME"_s}},
+      {{}, {}, {}, {{}, u"NAME"_s}},
+      {u"x"_s, u"123456789"_s, {}, {u"123456789"_s, u"AMA"_s}},
+      {{}, u"12345678"_s, lines_texts::kSearchNotNine, {}},
+      {{}, u"12345678x"_s, lines_texts::kSearchNotNumber, {}},
+  };
+  QTemporaryDir app;  // the program's directory, with its icon
+  ASSERT_TRUE(QFile(app.filePath(u"qormain.ico"_s)).open(QIODevice::WriteOnly));
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.number.toStdString());
+    FakeDialogs dialogs;
+    SearchForm form(app.path(), dialogs);
+    form.Load();
+    EXPECT_EQ(form.IconPath(), app.filePath(u"qormain.ico"_s));
+    form.Activate();
+    EXPECT_EQ(form.FocusedField(), u"Text2"_s);
+    form.Type(u"Text2"_s, c.surname);
+    form.Type(u"Text1"_s, c.number);
+    form.Command1_Click();
+    EXPECT_EQ(dialogs.LastMessage(), c.message);
+    EXPECT_EQ(form.Closed(), c.message.isEmpty());
+    if (!c.message.isEmpty()) {
+      EXPECT_EQ(form.FocusedField(), u"Text1"_s);
+      form.QueryClose();  // the window's close control
+    }
+    EXPECT_EQ(std::pair(form.Answer().text, form.Answer().kind),
+              std::pair(c.answer.text, c.answer.kind));
+  }
+}
+
+TEST(SearchDialog, TypingOneKeyEmptiesTheOther) {
+  FakeDialogs dialogs;
+  SearchForm form(QString(), dialogs);
+  form.Type(u"Text1"_s, u"123"_s);
+  form.Type(u"Text2"_s, u"Π"_s);
+  form.Text2_Change();
+  EXPECT_EQ(form.Text(u"Text1"_s) + u'|' + form.Text(u"Text2"_s), u"|Π"_s);
+  form.Type(u"Text1"_s, u"9"_s);
+  form.Text1_Change();
+  EXPECT_EQ(form.Text(u"Text1"_s) + u'|' + form.Text(u"Text2"_s), u"9|"_s);
+}
+
+TEST(ReportTest, SavedAsTextWholeOrToldWhyNot) {
+  // clang-format off
+  const Report report{{}, {u"Αρχείο: a.csv"_s}, {u"ΓΡΑΜΜΗ"_s, u"ΜΗΝΥΜΑ"_s}, {{{u"3"_s, u"ΠΡΟΣΟΧΗ!!"_s}, false}},
+                      {u"σημείωση"_s}, u"Τέλος."_s, {}};
+  // clang-format on
+  QTemporaryDir dir;
+  const QString path = dir.filePath(u"report.txt"_s);
+  EXPECT_EQ(SaveReportText(report, path), QString());
+  EXPECT_EQ(
+      FileBytes(path),
+      "\xEF\xBB\xBF" +
+          u"Αρχείο: a.csv\r\nΓΡΑΜΜΗ\tΜΗΝΥΜΑ\r\n3\tΠΡΟΣΟΧΗ!!\r\nσημείωση\r\nΤέλος.\r\n"_s.toUtf8());
+  const QString nowhere = dir.filePath(u"none/report.txt"_s);
+  EXPECT_TRUE(SaveReportText(report, nowhere).startsWith(texts::kFileNotWritten.arg(nowhere)));
+}
+
+TEST(ReportTest, FilesOfADeclarationAreNamedByKindNumberAndPeriod) {
+  // clang-format off
+  EXPECT_EQ(DeclarationFileName(Kind::Common, 12, u"042002"_s, u"062002"_s, u"pdf"_s), u"OVT-common-12-2002-04_2002-06.pdf"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Common, 7, u"042002"_s, u"042002"_s, u"txt"_s), u"OVT-common-7-2002-04.txt"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Construction, 3, u"112026"_s, {}, u"csv"_s), u"OVT-construction-3-2026-11.csv"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Construction, 3, u"1/2026"_s, {}, u"csv"_s), u"OVT-construction-3-12026.csv"_s);
+  // clang-format on
 }
 
 }  // namespace
