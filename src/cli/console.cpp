@@ -33,4 +33,11 @@ bool ReadKind(const QString& word, Kind& kind) {
   return true;
 }
 
+std::optional<int> ReadId(const QString& word) {
+  bool number = false;
+  const int id = word.toInt(&number);
+  if (!number || id < 1 || id > 32767) return std::nullopt;
+  return id;
+}
+
 }  // namespace veroxia::cli

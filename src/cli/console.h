@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <cstdio>
+#include <optional>
 
 #include "shell/ports.h"
 
@@ -54,5 +55,9 @@ class ConsoleDialogs : public Dialogs {
 // The words of a kind on the command line: "common" or "construction";
 // false for another word.
 bool ReadKind(const QString& word, Kind& kind);
+
+// A declaration's number on the command line: a whole number from 1 to
+// 32767; nothing for another word.
+std::optional<int> ReadId(const QString& word);
 
 }  // namespace veroxia::cli

@@ -69,9 +69,7 @@ QString LinesCommandUsage(const QStringList& all) {
   if (args.size() != 4) return cli_texts::kNeedsKindIdAndFile.arg(args[0]);
   Kind kind = Kind::Common;
   if (!ReadKind(args[1], kind)) return cli_texts::kKindWords;
-  bool number = false;
-  const int id = args[2].toInt(&number);
-  if (!number || id < 1 || id > 32767) return cli_texts::kIdRange;
+  if (!ReadId(args[2])) return cli_texts::kIdRange;
   return {};
 }
 
@@ -89,7 +87,7 @@ int RunLinesCommand(const QString& store_path, const QStringList& all) {
   Vars vars;
   vars.AppDir = QCoreApplication::applicationDirPath();
   if (!OpenStoreAt(vars, dialogs, store_path)) return kFailed;
-  vars.DeclarationId = static_cast<std::int16_t>(args[2].toInt());
+  vars.DeclarationId = static_cast<std::int16_t>(*ReadId(args[2]));
   const auto run = [&] {
     if (args[0] == u"export-lines") return ExportLinesTo(vars, kind, dialogs, file);
     try {

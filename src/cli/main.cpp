@@ -149,9 +149,9 @@ int main(int argc, char** argv) {
   }
   int id = 0;
   if (command != u"list") {
-    bool number = false;
-    id = id_text.toInt(&number);
-    if (!number || id < 1 || id > 32767) return Usage(cli_texts::kIdRange);
+    const std::optional<int> read = ReadId(id_text);
+    if (!read) return Usage(cli_texts::kIdRange);
+    id = *read;
   }
 
   Vars vars;

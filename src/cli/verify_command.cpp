@@ -34,9 +34,9 @@ int VerifyCommand(const QStringList& args, const QString& store, int (*usage)(co
   int id = 0;
   if (against) {
     if (!cli::ReadKind(args[2], kind)) return usage(cli_texts::kKindWords);
-    bool number = false;
-    id = args[3].toInt(&number);
-    if (!number || id < 1 || id > 32767) return usage(cli_texts::kIdRange);
+    const std::optional<int> read = cli::ReadId(args[3]);
+    if (!read) return usage(cli_texts::kIdRange);
+    id = *read;
   }
   if (directory.isEmpty() || !QDir(directory).exists()) {
     Print(stderr, u"veroxia-cli: "_s + cli_texts::kNoDirectory.arg(directory));
