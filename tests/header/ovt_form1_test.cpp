@@ -3,9 +3,10 @@
 // shown and usable, what is told and which screen follows, on opening and
 // after each button; the type selection and the cancelled correction; every
 // field stored in its column and shown from it, and the header taken over.
-// Then the construction-works header where it differs: its rules, how the
-// first save and a correction store the columns, the branch code shown with
-// three digits, the one month, the takeover, and the store error's message.
+// Then the construction-works header where it differs: its rules (the code
+// page's last), how the first save and a correction store the columns, the
+// branch code shown with three digits, the one month, the takeover, and the
+// store error's message.
 
 #include <QDir>
 #include <QFile>
@@ -516,7 +517,7 @@ TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
   // clang-format off
   const std::vector<RuleStep> rules{
       {"Text2", u"12"_s, Integer(kNameOvtCode, 3, true), true, u"012"_s}, {"Text3", u" "_s, Fixed(kText3Blank), true, u"Αθηνών"_s},
-      {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s}, {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u""_s},
+      {"Text4", u""_s, Fixed(kText4Blank), true, u"Δομική Α.Ε."_s}, {"FirstNmTxt", u"Νίκος2"_s, NoDigits(kNameFirstNm), true, u"ΑЖΒ"_s},
       {"FatherNmTxt", u"Γ1"_s, NoDigits(kNameFatherNm), true, u"Γιώργος"_s}, {"Text5", u" "_s, Fixed(kStreetBlank), false, u"Πατησίων"_s},
       {"Text7", u"1043"_s, Integer(kNameTk, 5, true), false, u"10434"_s}, {"Text8", u""_s, Fixed(kEmpCityBlank), false, u"Αθήνα"_s},
       {"Text9", u"  "_s, Fixed(kConDescrBlank), false, u"Πολυκατοικία"_s},
@@ -529,6 +530,8 @@ TEST_F(OvtForm3Test, RulesReportInOrderWithTheirMessagesAndFocus) {
       {"Text20", u"x"_s, Decimal(kNameConContributions, 10), true, u"0"_s},
       {"FlDateTxt", u"32/01/2003"_s, Date(kNameFlDate), true, kEmptyDateBox},
       {"StopDateTxt", u"15/05/2003"_s, Fixed(kStopDateNotIn01), true, kEmptyDateBox},
+      // Last, what the file's code page cannot hold, named by the box's caption.
+      {"FirstNmTxt", u"ΑЖΒ"_s, Fixed(kNotInCodePage.arg(kFirstNmLbl, u"Ж"_s, u"0416"_s)), true, u"€"_s},
   };
   // clang-format on
   OvtForm3& form = Open();
