@@ -22,7 +22,6 @@ using Lines = std::vector<std::tuple<int, QString, QString>>;
 
 // Every rule in its place, with a text it refuses and the one typed after.
 TEST_F(OvtForm2Test, RulesReportInOrderWithTheirMessagesAndFocus) {
-  const QString bad_date = u"31/13/2001"_s;
   // clang-format off
   const std::vector<RuleStep> rules{
       {"Text18_1", u""_s, Integer(kNameBranch, 4, true), true, u"0001"_s},
@@ -44,7 +43,7 @@ TEST_F(OvtForm2Test, RulesReportInOrderWithTheirMessagesAndFocus) {
       {"Text33_2", u""_s, Fixed(kYearBlank), false, u"ΑΒΓΔ"_s}, {"Text33_2", u"ΑΒΓΔ"_s, Fixed(kYearNumeric), true, u"02"_s},
       {"Text33_2", u"02"_s, Fixed(kYearLength), true, u"2002"_s},
       {"Text33_1", u"12"_s, Fixed(kPeriodWrong), false, u"03"_s},  // 12/2002 is after the period
-      {"Text34", bad_date, Date(kNameSalFrom), true, u"__/__/____"_s}, {"Text35", bad_date, Date(kNameSalTo), true, u"28/02/2002"_s},
+      {"Text34", u"31/13/2001"_s, Date(kNameSalFrom), true, u"__/__/____"_s}, {"Text35", u"31/13/2001"_s, Date(kNameSalTo), true, u"28/02/2002"_s},
       {"Text36", u"-1"_s, Integer(kNameWageCode, 2, false), true, u"01"_s}, {"Text37", u""_s, Integer(kNameDays, 3, false), true, u"25"_s},
       {"Text38", u"1.000"_s, Decimal(kNameDailyWage, 8), true, u""_s}, {"Text39", u""_s, Decimal(kNameSalary, 8), true, u"1000,50"_s},
       {"Text40", u"1,234"_s, Decimal(kNameInsuredContr, 8), true, u"160"_s},
