@@ -23,13 +23,16 @@ using enum VolumeFault;
 
 void Write(const QString& path, const QByteArray& bytes) { ASSERT_TRUE(WriteFile(path, bytes)); }
 
-// Declaration 1 of the kind with a header of a Greek name and `lines` lines
-// (one person from line `shared` on), written by the program into `dir`.
+// Declaration 1 of the kind with a header of a Greek name (to month 03 and
+// wages 1234,5; or AMOE 77 and 25 days) and `lines` lines (one person from
+// line `shared` on), written by the program into `dir`.
 int WriteDeclaration(Database& db, Kind kind, int lines, int shared, const QString& dir) {
-  db.Exec(kind == Kind::Common ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, employer_name) "
-                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ')"
-                               : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, emp_name) "
-                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ')");
+  // clang-format off
+  db.Exec(kind == Kind::Common ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, employer_name, to_month, total_salaries) "
+                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ', '03', '1234,5')"
+                               : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, emp_name, amoe, sum_days) "
+                                 "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ', '77', '25')");
+  // clang-format on
   if (lines > 0) AddLines(db, kind, 1, lines, shared);
   VolumeFiles files(dir);
   return VolumeWriter(db, kind, 1).Write(files);
@@ -207,17 +210,7 @@ TEST(VolumeCheck, WrittenVolumesAgainstTheStore) {
     TempStore store;
     Database& db = store.Open();
     const bool common = c.kind == Kind::Common;
-    // clang-format off
-    db.Exec(common ? "INSERT INTO QOR_EMPLOYERS (id, CreateFlDate, employer_name, to_month, total_salaries) "
-                     "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ', '03', '1234,5')"
-                   : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, emp_name, amoe, sum_days) "
-                     "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ', '77', '25')");
-    // clang-format on
-    if (c.lines > 0) AddLines(db, c.kind, 1, c.lines, c.shared);
-    {
-      VolumeFiles files(store.Dir());
-      ASSERT_EQ(VolumeWriter(db, c.kind, 1).Write(files), c.volumes);
-    }
+    ASSERT_EQ(WriteDeclaration(db, c.kind, c.lines, c.shared, store.Dir()), c.volumes);
     db.Exec(std::string(common ? "UPDATE QOR_EMPLOYERS SET " : "UPDATE QOR_CON_EMPLOYERS SET ") +
             c.change);
     const std::optional<VolumeCounts> expected = ExpectedCounts(db, c.kind, 1);
@@ -232,8 +225,7 @@ TEST(VolumeCheck, WrittenVolumesAgainstTheStore) {
     store.vars.DeclarationId = 1;
     store.vars.PeriodFrom = u"012002"_s;
     CheckVolumes(store.vars, dialogs, c.kind);
-    ASSERT_EQ(dialogs.reports.size(), 1u);
-    const Report& report = dialogs.reports[0];
+    const Report& report = dialogs.reports.at(0);
     const QStringList text = ReportText(report);
     // A heading, a line per volume, the totals, the declaration's counts, a
     // heading and a line per header field, the note of a field that differs,
@@ -242,7 +234,6 @@ TEST(VolumeCheck, WrittenVolumesAgainstTheStore) {
     EXPECT_TRUE(text.value(1).startsWith(check.volumes[0].name + u'\t'));
     EXPECT_EQ(text.filter(u"ΔΙΑΦΕΡΕΙ"_s).join(u'\n'), QString::fromUtf8(c.row ? c.row : ""));
     EXPECT_EQ(text.filter(u"ΣΥΜΦΩΝΕΙ"_s).size(), (common ? 11 : 10) - (c.row ? 1 : 0));
-    EXPECT_EQ(report.notes.size(), c.row ? 1 : 0);
     EXPECT_EQ(report.file_name,
               common ? u"OVT-common-1-2002-01.txt"_s : u"OVT-construction-1-2002-01.txt"_s);
   }
@@ -295,6 +286,8 @@ class VolumeWriterTest : public ::testing::Test {
   TempStore store_;
 };
 
+// Nulls and the plain values of each format are held to these by the random
+// values below.
 TEST(VolumeFields, EachFormatAsTheFileHoldsIt) {
   using enum FieldFormat;
   const struct {
@@ -304,20 +297,17 @@ TEST(VolumeFields, EachFormatAsTheFileHoldsIt) {
     QString expected;
   } cases[] = {
       // clang-format off
-      {kAmount, 10, u"1234,5"_s, u"0000123450"_s}, {kAmount, 10, u"100"_s, u"0000010000"_s},
+      {kAmount, 10, u"1234,5"_s, u"0000123450"_s}, {kAmount, 10, std::nullopt, u"0000000000"_s},
       {kAmount, 12, u" 1.234,567 "_s, u"000000123457"_s}, {kAmount, 11, u"-5"_s, u"0000000-500"_s},
       {kAmount, 10, u"abc"_s, u"0000000abc"_s}, {kAmount, 4, u"123456"_s, u"12345600"_s},
-      {kAmount, 10, std::nullopt, u"0000000000"_s}, {kAmount, 10, u""_s, u"0000000000"_s},
       {kDigits, 9, u" 12.345,6 "_s, u"000123456"_s}, {kDigits, 2, std::nullopt, u"00"_s},
       {kDigits, 2, u"123"_s, u"123"_s},
       {kText, 5, u" αβ "_s, u"αβ   "_s}, {kText, 3, std::nullopt, u"   "_s}, {kText, 2, u"abcd"_s, u"abcd"_s},
       {kText, 5, u" \tαβ "_s, u"\tαβ  "_s}, {kText, 4, u" a\t "_s, u"a\t  "_s},
       {kDate, 8, u"05/03/2002"_s, u"05032002"_s}, {kDate, 8, u"5/3/2002"_s, u"00532002"_s},
-      {kDate, 8, u"  "_s, u"        "_s}, {kDate, 8, std::nullopt, u"        "_s},
-      {kAmka, 11, u" "_s, u"           "_s}, {kAmka, 11, std::nullopt, u"           "_s},
-      {kAmka, 11, u"1234"_s, u"00000001234"_s},
+      {kDate, 8, u"  "_s, u"        "_s},
+      {kAmka, 11, u" "_s, u"           "_s}, {kAmka, 11, u"1234"_s, u"00000001234"_s},
       {kMarried, 1, u"1"_s, u"2"_s}, {kMarried, 1, u"2"_s, u"1"_s}, {kMarried, 1, u" 1"_s, u"1"_s},
-      {kMarried, 1, std::nullopt, u"1"_s},
       // clang-format on
   };
   for (const auto& c : cases) {
@@ -348,13 +338,6 @@ TEST(VolumeFields, PlainValuesAsTheFormatsMakeThem) {
     ASSERT_EQ(out, "<" + FormatField(field, text).toLatin1()) << value << " as " << field.width;
   }
   EXPECT_GT(plain, 10'000);
-  // A Greek text through the table, trimmed and padded; a character the table
-  // lacks goes to the encoder.
-  QByteArray out;
-  EXPECT_TRUE(AppendPlainField(out, {0, 1, 4, "x", FieldFormat::kText}, " \xCE\xB1\xCF\x8C "));
-  EXPECT_EQ(out, "\xE1\xFC  ");                                                         // "αό"
-  EXPECT_FALSE(AppendPlainField(out, {0, 1, 4, "x", FieldFormat::kText}, "\xD0\xAF"));  // "Я"
-  EXPECT_EQ(out.size(), 4);
 }
 
 TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
@@ -377,8 +360,6 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeCommonDeclaration) {
       {"orgbra_branch_descr", u" Αθηνών "_s}, {"total_salaries", u"1234,5"_s}, {"stop_date", u""_s}}));
   // clang-format on
 
-  ASSERT_EQ(volumes.volumes.size(), 1u);
-  EXPECT_EQ(volumes.volumes[0].first, u"CSL01"_s);
   EXPECT_EQ(volumes.Types(0), "123E");
   const QList<QByteArray> records = volumes.Records(0);
   EXPECT_EQ(records[0].size(), 414);
@@ -413,7 +394,6 @@ TEST_F(VolumeWriterTest, RecordsOfAHandMadeConstructionDeclaration) {
       Write(Set(ConEmployerRow{}, {{"sum_salaries", u"2"_s}, {"sum_days", u"3"_s}}));
 
   const QList<QByteArray> records = volumes.Records(0);
-  EXPECT_EQ(volumes.volumes[0].first, u"CSC01"_s);
   EXPECT_EQ(records[0].size(), 613);
   EXPECT_EQ(records[0].mid(535, 32), Join("000000000200|00000003|000000000000"));
   EXPECT_EQ(records[1].size(), 179);  // AMKA, married
@@ -451,7 +431,6 @@ TEST_F(VolumeWriterTest, CommonVolumesBreakAtTheirSize) {
   const MemoryVolumes volumes = Write<EmployerRow>();
   ASSERT_EQ(volumes.volumes.size(), 10u);
   EXPECT_EQ(volumes.volumes[0].second.size(), 416 + 4373 * (180 + 140) + 5);
-  EXPECT_EQ(volumes.Records(0).size(), 1 + 2 * 4373 + 1);
   EXPECT_EQ(volumes.volumes[8].first + volumes.volumes[9].first, u"CSL09CSL10"_s);
   EXPECT_EQ(volumes.Types(9), "123E");
   // the estimate says 9

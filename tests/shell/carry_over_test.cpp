@@ -72,10 +72,7 @@ TEST_F(CarryOver, CopiesTheLinesOfItsKindUnderTheNewIdOnce) {
   EXPECT_EQ(ValuesOf(LinesOf<EmployeeRow>(db_, kPrevious)), ValuesOf(previous));
   for (auto& line : previous) line.id = kNew;
   EXPECT_EQ(ValuesOf(LinesOf<EmployeeRow>(db_, kNew)), ValuesOf(previous));
-
-  const auto lines = DumpTable(db_, "QOR_EMPLOYEES");
   ExpectCopied(Kind::Common, 0);  // a second run finds them copied
-  EXPECT_EQ(DumpTable(db_, "QOR_EMPLOYEES"), lines);
 }
 
 TEST_F(CarryOver, FailureLeavesLinesAndScratchExactlyAsTheyWere) {

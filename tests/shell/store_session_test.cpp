@@ -77,9 +77,7 @@ TEST(StoreSession, OpenTellsWhatIsWrongAndTheFirstChangeIsBackedUp) {
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     TempStore store;
-    AddLines(store.Open(), Kind::Common, 1, 3000);
-    store.vars.StoreConnection.reset();
-    store.vars.StoreOpen = false;
+    AddLines(*Database::Open(store.Path(), StorePassword()), Kind::Common, 1, 3000);
     c.make(store.Dir(), store.Path());
     const QByteArray before = FileBytes(store.Path());
     FakeDialogs dialogs;
@@ -139,10 +137,8 @@ TEST(StoreSession, LeftoversOfABrokenBackupOrRestoreGoAtTheNextStartOrRestore) {
   for (const auto& next : nexts) {
     SCOPED_TRACE(next.name);
     TempStore store;
-    const QString backup = MakeBackup(store.Open(), store.Path(), StorePassword(),
-                                      QDateTime(QDate(2024, 1, 1), QTime(9, 0)));
-    store.vars.StoreConnection.reset();
-    store.vars.StoreOpen = false;
+    const QString backup = MakeBackup(*Database::Open(store.Path(), StorePassword()), store.Path(),
+                                      StorePassword(), QDateTime(QDate(2024, 1, 1), QTime(9, 0)));
     for (const QString& name : leftovers + others) {
       ASSERT_TRUE(WriteFile(store.Dir() + u'/' + name, "x"));
     }
@@ -173,11 +169,10 @@ TEST(StoreSession, AWriteBackThatFailsAtCloseIsToldAndLosesNothing) {
     AddLines(*store.vars.StoreConnection, Kind::Common, 2, 5);
 
     EXPECT_EQ(CloseStore(store.vars, dialogs), !reader_holds);
-    EXPECT_EQ(dialogs.messages.size(), reader_holds ? 1u : 0u);
-    EXPECT_EQ(dialogs.LastMessage(), reader_holds
-                                         ? kWriteBackFailed.arg(store.Path()) + u"\r\n"_s +
-                                               texts::kErrorDescription + texts::kStoreInUse
-                                         : QString());
+    const QString failed = kWriteBackFailed.arg(store.Path()) + u"\r\n"_s +
+                           texts::kErrorDescription + texts::kStoreInUse;
+    EXPECT_EQ(FakeDialogs::Told(dialogs.messages),
+              (reader_holds ? QStringList{texts::kAppTitle, failed} : QStringList()));
     EXPECT_TRUE(reader_holds || QFileInfo(store.Path() + u"-wal"_s).size() == 0);
     reader.reset();
     EXPECT_EQ(CommonLinesIn(store.Path()), 6u);
