@@ -33,7 +33,7 @@ int WriteDeclaration(Database& db, Kind kind, int lines, int shared, const QStri
                                : "INSERT INTO QOR_CON_EMPLOYERS (id, createfldate, emp_name, amoe, sum_days) "
                                  "VALUES (1, '05/03/2002', 'ΠΑΠΑΔΟΠΟΥΛΟΣ', '77', '25')");
   // clang-format on
-  if (lines > 0) AddLines(db, kind, 1, lines, shared);
+  AddLines(db, kind, 1, lines, shared);
   VolumeFiles files(dir);
   return VolumeWriter(db, kind, 1).Write(files);
 }

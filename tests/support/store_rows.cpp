@@ -3,6 +3,7 @@
 namespace veroxia::testing {
 
 void AddLines(Database& db, Kind kind, int id, int count, int shared) {
+  if (count <= 0) return;
   db.Exec(QStringLiteral(
               "INSERT INTO %1 (id, row_num, insured_id, surname) WITH RECURSIVE n(i) AS "
               "(SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %3) SELECT %2, i, CASE WHEN "
