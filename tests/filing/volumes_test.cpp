@@ -75,22 +75,23 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
     Edit edit;
     int volume;  // where the finding is (0: the set as a whole)
     VolumeFault fault;
-    int record;    // where in it; -1: anywhere
-    int findings;  // all kept
+    int record;      // where in it; -1: anywhere
+    int findings;    // all kept
+    QString told{};  // a part of the report's text
   } cases[] = {
       // clang-format off
-      {"Truncated", change("03", [](QByteArray& b) { b.chop(70); }), 3, kCut, -1, 2},
-      {"LfLineEnds", change("02", [](QByteArray& b) { b.replace("\r\n", "\n"); }), 2, kBareLf, 1, kKeptFindings},
+      {"Truncated", change("03", [](QByteArray& b) { b.chop(70); }), 3, kCut, -1, 2, u"είναι κομμένη: δεν τελειώνει σε CR LF."_s},
+      {"LfLineEnds", change("02", [](QByteArray& b) { b.replace("\r\n", "\n"); }), 2, kBareLf, 1, kKeptFindings, u"τελειώνει σε LF χωρίς CR."_s},
       // 0xAE is the registered sign; 0xFF is left undefined.
       {"ForeignByte", change("02", [&](QByteArray& b) {
          b[line3 + 10 * 140 + 20] = '\xAE', b[line3 + 11 * 140 + 20] = '\xFF'; }), 2, kForeignByte, 14, 1},
       {"CrInARecord", change("02", [&](QByteArray& b) { b[line3 + 5 * 140 + 30] = '\r'; }), 2, kBareCr, 8, 1},
-      {"MissingInTheMiddle", [](const QString& p) { QFile::remove(p + u"02"_s); }, 2, kMissing, 0, 2},
+      {"MissingInTheMiddle", [](const QString& p) { QFile::remove(p + u"02"_s); }, 2, kMissing, 0, 2, u"Λείπει ο τόμος CSL02."_s},
       {"ExtraAfterTheLast", [](const QString& p) {
          Write(p + u"04"_s, FileBytes(p + u"03"_s).replace(3, 7, "04CSL04")); }, 4, kExtra, 0, 1},
       {"HeaderChanged", change("02", [](QByteArray& b) { b[99] = 'X'; }), 2, kHeaderDiffers, 1, 1},
       {"LineWithoutPerson", change("03", [&](QByteArray& b) { b.remove(416, 180); }), 3, kLineWithoutPerson, 2, 1},
-      {"NoEof", change("03", [](QByteArray& b) { b.chop(5); }), 3, kNoEof, 0, 1},
+      {"NoEof", change("03", [](QByteArray& b) { b.chop(5); }), 3, kNoEof, 0, 1, u"δεν τελειώνει με EOF."_s},
       {"BothKinds", [](const QString& p) { Write(p.chopped(3) + u"CSC01"_s, "1"); }, 0, kBothKinds, 0, 1},
       {"Misnamed", [](const QString& p) { Write(p + u"1"_s, "1"); }, 0, kBadName, 0, 1},
       // clang-format on
@@ -100,6 +101,7 @@ TEST_F(BrokenVolumes, EachFaultIsFoundInItsVolume) {
     const VolumeCheck check = VerifyVolumes(Copy(QLatin1StringView(c.name), c.edit));
     const QString text = ReportText(VolumeCheckWindow(check)).join(u'\n');
     EXPECT_EQ(check.findings.size(), static_cast<size_t>(c.findings)) << text.toStdString();
+    EXPECT_TRUE(text.contains(c.told)) << text.toStdString();
     EXPECT_TRUE(std::any_of(check.findings.begin(), check.findings.end(), [&](const auto& f) {
       return f.volume == c.volume && f.fault == c.fault && (c.record < 0 || f.record == c.record);
     })) << text.toStdString();
