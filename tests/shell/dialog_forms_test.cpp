@@ -213,7 +213,7 @@ TEST(ReportTest, SavedAsTextWholeOrToldWhyNot) {
 
 TEST(ReportTest, FilesOfADeclarationAreNamedByKindNumberAndPeriod) {
   // clang-format off
-  EXPECT_EQ(DeclarationFileName(Kind::Common, 7, u"042002"_s, u"042002"_s, u"txt"_s), u"OVT-common-7-2002-04.txt"_s);
+  EXPECT_EQ(DeclarationFileName(Kind::Common, 7, u"012009"_s, u"032009"_s, u"txt"_s), u"OVT-common-7-2009-01_2009-03.txt"_s);
   EXPECT_EQ(DeclarationFileName(Kind::Construction, 3, u"1/2026"_s, {}, u"csv"_s), u"OVT-construction-3-12026.csv"_s);
   // clang-format on
 }
